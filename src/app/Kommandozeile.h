@@ -1,0 +1,38 @@
+#pragma once
+// The command line: every mode of the program and its options.
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace app {
+
+enum class Modus { Spiel, Hilfe, Version, Autoplay, Turnier, Screenshot, Host, Join };
+
+struct Aufruf {
+    Modus modus = Modus::Spiel;
+    std::optional<std::uint64_t> seed;
+    int anzahl = 0;                    // --autoplay N / --tournament N
+    std::string regelDatei;            // --rules FILE
+    std::string jsonDatei;             // --json FILE|-
+    std::string ladeDatei;             // --load FILE
+    std::string screenshotDatei;       // --screenshot FILE
+    bool statistik = false;            // --stats
+    std::vector<std::string> spieler;  // --players A,B
+    std::string joinAdresse;           // --join HOST[:PORT]
+    int port = 0;                      // --port P
+    std::string name;                  // --name NAME
+    bool automatisch = false;          // --auto
+    int spiele = 0;                    // --games N
+};
+
+struct Auswertung {
+    std::optional<Aufruf> aufruf;
+    std::string fehler;  // set when the command line is wrong
+};
+
+Auswertung kommandozeileAuswerten(const std::vector<std::string>& argumente);
+
+std::string hilfetext();
+
+}  // namespace app

@@ -1,0 +1,27 @@
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "Kommandozeile.h"
+#include "Version.h"
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> argumente(argv + 1, argv + argc);
+    const app::Auswertung auswertung = app::kommandozeileAuswerten(argumente);
+    if (!auswertung.aufruf) {
+        std::cerr << "trumpona: " << auswertung.fehler << "\n\n" << app::hilfetext();
+        return 2;
+    }
+    const app::Aufruf& aufruf = *auswertung.aufruf;
+    switch (aufruf.modus) {
+        case app::Modus::Hilfe:
+            std::cout << app::hilfetext();
+            return 0;
+        case app::Modus::Version:
+            std::cout << "trumpona " << TRUMPONA_VERSION << "\n";
+            return 0;
+        default:
+            std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
+            return 2;
+    }
+}

@@ -1,0 +1,32 @@
+#pragma once
+// Playing one card into the trick and deciding the trick.
+#include <string>
+
+#include "Spiel.h"
+
+namespace engine {
+
+class Zufallsquelle;
+
+// Legality of a seat's card: illegal exactly when it does not follow the suit
+// to follow although another card of the hand does.
+bool karteErlaubt(const Spiel& spiel, Sitz sitz, int pos);
+
+// The wrong-card message for an illegal card (the opening is drawn at random).
+std::string falscheKarteMeldung(const Spiel& spiel, int pos, bool franzoesisch, Zufallsquelle& zufall);
+
+struct Kartenfolge {
+    bool kreuzDameAufgedeckt = false;  // the player revealed Re
+    bool schweinGespielt = false;      // a raised Karo-As fell
+};
+
+// Plays the card at `pos` for the seat on turn.
+Kartenfolge karteSpielen(Spiel& spiel, int pos);
+
+// Place 1..4 of the winning card among the first `anzahl` cards (anzahl >= 1).
+int fuehrenderPlatz(const Deck& deck, const Stich& stich, int anzahl, int spieltyp, bool ersteDolleHoch);
+
+// Winning seat of the complete trick.
+Sitz stichGewinner(const Spiel& spiel);
+
+}  // namespace engine

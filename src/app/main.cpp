@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "Kommandozeile.h"
+#include "Screenshot.h"
 #include "Version.h"
 
 int main(int argc, char** argv) {
@@ -20,6 +21,8 @@ int main(int argc, char** argv) {
         case app::Modus::Version:
             std::cout << "trumpona " << TRUMPONA_VERSION << "\n";
             return 0;
+        case app::Modus::Screenshot:
+            return app::screenshotSchreiben(aufruf, argc, argv);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

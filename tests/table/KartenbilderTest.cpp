@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "QtAusgabe.h"
+
 #include "engine/Karte.h"
 #include "table/Kartenbilder.h"
 #include "table/Kartenmaler.h"

@@ -3,6 +3,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include "QtAusgabe.h"
+
 #include "engine/Stichspiel.h"
 #include "engine/TestHilfen.h"
 #include "table/Kartenbilder.h"

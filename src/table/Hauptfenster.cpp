@@ -1,0 +1,126 @@
+#include "Hauptfenster.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+
+#include "Kartenbilder.h"
+#include "Tischansicht.h"
+#include "Tischtexte.h"
+
+namespace table {
+
+namespace {
+QString t(const char* text) { return QString::fromUtf8(text); }
+}  // namespace
+
+Hauptfenster::Hauptfenster(QWidget* parent)
+    : QMainWindow(parent), bilder_(std::make_unique<Kartenbilder>()) {
+    setObjectName(QStringLiteral("hfo"));
+    setWindowTitle(t(texte::Fenstertitel));
+    tisch_ = new Tischansicht(*bilder_, this);
+    setCentralWidget(tisch_);
+    statuszeile_ = new QLabel(this);
+    statusBar()->addWidget(statuszeile_, 1);
+    menuesAnlegen();
+    ansagemenueSetzen(ansagemenue(engine::Spiel{}, false));
+    tisch_->setFocus();
+}
+
+Hauptfenster::~Hauptfenster() = default;
+
+void Hauptfenster::menuesAnlegen() {
+    auto aktion = [this](QMenu* menue, const char* text, const char* name) {
+        QAction* a = menue->addAction(t(text));
+        a->setObjectName(QString::fromLatin1(name));
+        return a;
+    };
+    QMenu* spiel = menuBar()->addMenu(t(texte::MenuSpiel));
+    neuePartie_ = aktion(spiel, texte::NeuePartie, "m_neue_partie");
+    neuePartie_->setShortcut(QKeySequence(Qt::Key_F2));
+    spiel->addSeparator();
+    laden_ = aktion(spiel, texte::PartieLaden, "m_laden");
+    speichern_ = aktion(spiel, texte::PartieSpeichern, "m_speichern");
+    spiel->addSeparator();
+    einstellungen_ = aktion(spiel, texte::EinstellungenMenue, "m_einstellungen");
+    netzprotokoll_ = aktion(spiel, texte::NetzprotokollZeigen, "m_netzprotokoll");
+    spiel->addSeparator();
+    ende_ = aktion(spiel, texte::Ende, "m_ende");
+    ende_->setShortcut(QKeySequence(Qt::ALT | Qt::Key_F4));
+    for (QAction* spaeter : {laden_, speichern_, einstellungen_, netzprotokoll_}) spaeter->setEnabled(false);
+
+    QMenu* ansagen = menuBar()->addMenu(t(texte::MenuAnsagen));
+    reKontra_ = aktion(ansagen, texte::ReAusrufen, "m_ansage");
+    ansagen->addSeparator();
+    for (std::size_t i = 0; i < limits_.size(); ++i) {
+        limits_[i] = ansagen->addAction(QString::fromStdString(limittext(LimitcodesImMenue[i])));
+        limits_[i]->setObjectName(QStringLiteral("m_limit%1").arg(LimitcodesImMenue[i]));
+        connect(limits_[i], &QAction::triggered, this, [this, i] { emit limitGewuenscht(LimitcodesImMenue[i]); });
+    }
+
+    QMenu* ansicht = menuBar()->addMenu(t(texte::MenuAnsicht));
+    letzterStich_ = aktion(ansicht, texte::LetzterStich, "m_letzter_stich");
+    alleStiche_ = aktion(ansicht, texte::AlleStiche, "m_alle_stiche");
+    spielzettel_ = aktion(ansicht, texte::Spielzettel, "m_spielzettel");
+    ansicht->addSeparator();
+    msgboxen_ = aktion(ansicht, texte::MsgboxenZeigen, "m_msgboxen_zeigen");
+    msgboxen_->setCheckable(true);
+
+    // Straight in the menu bar, as a button.
+    automatik_ = menuBar()->addAction(t(texte::AutomatischSpielen));
+    automatik_->setObjectName(QStringLiteral("m_automatisch"));
+
+    connect(neuePartie_, &QAction::triggered, this, &Hauptfenster::m_neue_partie_click);
+    connect(ende_, &QAction::triggered, this, &Hauptfenster::SubPrgBeenden);
+    connect(automatik_, &QAction::triggered, this, &Hauptfenster::automatikGewuenscht);
+    connect(reKontra_, &QAction::triggered, this, &Hauptfenster::reKontraGewuenscht);
+    connect(letzterStich_, &QAction::triggered, this, &Hauptfenster::letzterStichGewuenscht);
+    connect(alleStiche_, &QAction::triggered, this, &Hauptfenster::alleSticheGewuenscht);
+    connect(spielzettel_, &QAction::triggered, this, &Hauptfenster::spielzettelGewuenscht);
+}
+
+void Hauptfenster::statusSetzen(const QString& text) { statuszeile_->setText(text); }
+
+QString Hauptfenster::status() const { return statuszeile_->text(); }
+
+void Hauptfenster::ansagemenueSetzen(const Ansagemenue& menue) {
+    reKontra_->setText(QString::fromStdString(menue.reKontra.text));
+    reKontra_->setEnabled(menue.reKontra.aktiv);
+    for (std::size_t i = 0; i < limits_.size(); ++i) {
+        limits_[i]->setText(QString::fromStdString(menue.limits[i].text));
+        limits_[i]->setEnabled(menue.limits[i].aktiv);
+    }
+}
+
+void Hauptfenster::automatikAnzeigen(bool laeuft) {
+    automatik_->setText(t(laeuft ? texte::AutomatikAbbrechen : texte::AutomatischSpielen));
+}
+
+void Hauptfenster::partieendeAnzeigen(bool ende) {
+    setWindowTitle(t(texte::Fenstertitel) + (ende ? t(texte::Partieende) : QString()));
+}
+
+int Hauptfenster::msgBoxModus() const { return msgboxen_->isChecked() ? 1 : 3; }
+
+void Hauptfenster::m_neue_partie_click() {
+    if (partieUnterwegs_ &&
+        QMessageBox::question(this, windowTitle(), t(texte::PartieAbbrechen), QMessageBox::Yes | QMessageBox::No) !=
+            QMessageBox::Yes)
+        return;
+    emit neuePartieGewuenscht();
+}
+
+void Hauptfenster::SubPrgBeenden() {
+    beendenBestaetigt_ = true;
+    emit beendenGewuenscht();
+    close();
+}
+
+void Hauptfenster::closeEvent(QCloseEvent* event) {
+    if (!beendenBestaetigt_) emit beendenGewuenscht();
+    event->accept();
+}
+
+}  // namespace table

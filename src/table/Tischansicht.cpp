@@ -1,6 +1,7 @@
 #include "Tischansicht.h"
 
 #include <QKeyEvent>
+#include <QTimer>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -38,6 +39,20 @@ int kartennummerVonTaste(int taste) {
 }  // namespace
 
 Tischansicht::Tischansicht(Kartenbilder& bilder, QWidget* parent) : QWidget(parent), bilder_(bilder) {
+    animation_ = new QVariantAnimation(this);
+    animation_->setStartValue(0.0);
+    animation_->setEndValue(1.0);
+    animation_->setEasingCurve(QEasingCurve::OutCubic);
+    connect(animation_, &QVariantAnimation::valueChanged, this, [this](const QVariant& wert) {
+        if (bewegung_) bewegung_->fortschritt = wert.toReal();
+        update();
+    });
+    connect(animation_, &QVariantAnimation::finished, this, [this] {
+        if (bewegung_ && bewegung_->ausblenden) stichSichtbar_ = false;
+        bewegung_.reset();
+        update();
+        emit bewegungFertig();
+    });
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -72,6 +87,45 @@ void Tischansicht::setzeParteibilder(const engine::ProSitz<int>& bilder) {
 
 void Tischansicht::setzeStichSichtbar(bool sichtbar) {
     stichSichtbar_ = sichtbar;
+    update();
+}
+
+bool Tischansicht::bewegtSich() const { return bewegung_.has_value(); }
+
+void Tischansicht::karteFliegen(int pos, Sitz sitz) {
+    const Tischlayout l = layout();
+    Kartenplatz von{l.handmitte(sitz), sitz.nr() == 2 ? 90.0 : sitz.nr() == 4 ? -90.0 : 0.0};
+    // The own card starts where it lay in the fan; the fan is still the old one here.
+    const auto plaetze = handplaetze(l);
+    for (std::size_t i = 0; i < handfolge_.size(); ++i)
+        if (handfolge_[i] == pos) von = plaetze[i];
+    handAktualisieren();
+    stichSichtbar_ = true;
+    bewegen({pos}, {von}, {l.stichplatz(sitz)}, false);
+}
+
+void Tischansicht::stichEinsammeln(Sitz gewinner) {
+    std::vector<int> karten;
+    std::vector<Kartenplatz> von, nach;
+    if (spiel_) {
+        const Tischlayout l = layout();
+        const engine::Stich& stich = spiel_->stich;
+        for (int platz = 1; platz <= stich.anzahl; ++platz) {
+            karten.push_back(stich.karte(platz));
+            von.push_back(l.stichplatz(stich.sitzAn(platz)));
+            nach.push_back({l.handmitte(gewinner), von.back().winkel});
+        }
+    }
+    bewegen(std::move(karten), std::move(von), std::move(nach), true);
+}
+
+void Tischansicht::bewegen(std::vector<int> karten, std::vector<Kartenplatz> von, std::vector<Kartenplatz> nach,
+                           bool ausblenden) {
+    animation_->stop();
+    bewegung_ = Bewegung{std::move(karten), std::move(von), std::move(nach), ausblenden, 0};
+    animation_->setDuration(optionen_.animation ? (ausblenden ? 320 : 260) : 0);
+    // A zero duration still finishes through the event loop, so callers see one order of events.
+    QTimer::singleShot(0, animation_, [this] { animation_->start(); });
     update();
 }
 
@@ -192,6 +246,22 @@ void Tischansicht::paintEvent(QPaintEvent*) {
     for (const Sitz s : engine::alleSitze) sitzMalen(maler, l, s);
     if (stichSichtbar_) stichMalen(maler, l);
     handMalen(maler, l);
+    if (bewegung_) bewegungMalen(maler, l);
+}
+
+void Tischansicht::bewegungMalen(QPainter& maler, const Tischlayout& l) const {
+    const qreal t = bewegung_->fortschritt;
+    for (std::size_t i = 0; i < bewegung_->karten.size(); ++i) {
+        const Kartenplatz& a = bewegung_->von[i];
+        const Kartenplatz& b = bewegung_->nach[i];
+        const Kartenplatz jetzt{a.mitte + (b.mitte - a.mitte) * t, a.winkel + (b.winkel - a.winkel) * t};
+        // A collected trick shrinks towards its winner.
+        const QSizeF groesse = bewegung_->ausblenden ? l.kartengroesse() * (1 - 0.4 * t) : l.kartengroesse();
+        maler.setOpacity(bewegung_->ausblenden ? 1 - 0.6 * t : 1);
+        karteMalen(maler, jetzt, groesse,
+                   bilder_.vorderseite(spiel_->deck[bewegung_->karten[i]].code, l.kartengroesse(), devicePixelRatioF()));
+    }
+    maler.setOpacity(1);
 }
 
 // Felt: the chosen colour, a little lighter in the middle.
@@ -271,6 +341,8 @@ void Tischansicht::stichMalen(QPainter& maler, const Tischlayout& l) const {
     const qreal dpr = devicePixelRatioF();
     for (int platz = 1; platz <= stich.anzahl; ++platz) {
         const int pos = stich.karte(platz);
+        if (bewegung_ && std::find(bewegung_->karten.begin(), bewegung_->karten.end(), pos) != bewegung_->karten.end())
+            continue;
         karteMalen(maler, l.stichplatz(stich.sitzAn(platz)), l.kartengroesse(),
                    bilder_.vorderseite(spiel_->deck[pos].code, l.kartengroesse(), dpr));
     }

@@ -2,6 +2,7 @@
 // The table: the own hand fanned at the bottom, the other seats' backs, the trick
 // in the middle, names, Augen and party pictures. It only shows a game state it
 // does not own and reports the card the person chooses.
+#include <QVariantAnimation>
 #include <QWidget>
 #include <optional>
 #include <vector>
@@ -29,6 +30,13 @@ public:
     // ParteiBild per seat, 0 for none.
     void setzeParteibilder(const engine::ProSitz<int>& bilder);
     void setzeStichSichtbar(bool sichtbar);
+
+    // Card movement: a card just played flies from its hand to the trick; a complete
+    // trick slides to its winner and is gone. Without "Animation" both end at once.
+    // Either way `bewegungFertig` follows from the event loop, never from inside the call.
+    void karteFliegen(int pos, engine::Sitz sitz);
+    void stichEinsammeln(engine::Sitz gewinner);
+    bool bewegtSich() const;
     void neuZeichnen();
 
     // Seat 1's cards left to right, as laid out.
@@ -46,6 +54,7 @@ signals:
     // A card of seat 1 was clicked or chosen by keyboard (deck position).
     void karteGewaehlt(int pos);
     void stichGeklickt();
+    void bewegungFertig();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -61,10 +70,12 @@ private:
     bool erlaubt(int pos) const;
     void waehlen(int pos);
 
+    void bewegen(std::vector<int> karten, std::vector<Kartenplatz> von, std::vector<Kartenplatz> nach, bool ausblenden);
     void tischMalen(QPainter& maler) const;
     void karteMalen(QPainter& maler, const Kartenplatz& platz, QSizeF groesse, const QPixmap& bild) const;
     void sitzMalen(QPainter& maler, const Tischlayout& layout, engine::Sitz sitz) const;
     void stichMalen(QPainter& maler, const Tischlayout& layout) const;
+    void bewegungMalen(QPainter& maler, const Tischlayout& layout) const;
     void handMalen(QPainter& maler, const Tischlayout& layout) const;
 
     Kartenbilder& bilder_;
@@ -76,6 +87,16 @@ private:
     engine::ProSitz<int> parteibilder_{0};
     std::vector<int> handfolge_;
     int ausgewaehlt_ = 0;  // deck position under the mouse or the keyboard cursor
+
+    // Cards on the move, drawn between their places instead of at them.
+    struct Bewegung {
+        std::vector<int> karten;
+        std::vector<Kartenplatz> von, nach;
+        bool ausblenden = false;  // the trick being collected: hidden afterwards
+        qreal fortschritt = 0;
+    };
+    std::optional<Bewegung> bewegung_;
+    QVariantAnimation* animation_ = nullptr;
 };
 
 }  // namespace table

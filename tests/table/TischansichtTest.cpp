@@ -127,6 +127,39 @@ TEST_F(TischansichtTest, HandLiegtSortiert) {
     EXPECT_EQ(codes, erwartet);
 }
 
+TEST_F(TischansichtTest, BewegungEndetImmerUeberDieEreignisschleife) {
+    for (const bool animation : {false, true}) {
+        table::Anzeigeoptionen optionen;
+        optionen.animation = animation;
+        tisch_.setzeOptionen(optionen);
+        QSignalSpy fertig(&tisch_, &table::Tischansicht::bewegungFertig);
+        const int pos = karteAn(11);  // Pik-Neun, legal on the Pik lead
+        karteSpielen(spiel_, pos);
+        tisch_.karteFliegen(pos, Sitz(1));
+        EXPECT_EQ(fertig.count(), 0) << animation;
+        EXPECT_TRUE(tisch_.bewegtSich());
+        EXPECT_EQ(tisch_.handfolge().size(), 11u);
+        ASSERT_TRUE(fertig.wait(2000)) << animation;
+        EXPECT_FALSE(tisch_.bewegtSich());
+
+        // The collected trick is gone from the table afterwards.
+        const QPointF ort = tisch_.layout().stichplatz(Sitz(3)).mitte;
+        const QImage vorher = tisch_.grab().toImage();
+        tisch_.stichEinsammeln(Sitz(3));
+        ASSERT_TRUE(fertig.wait(2000)) << animation;
+        EXPECT_EQ(fertig.count(), 2);
+        tisch_.setzeSpiel(nullptr);
+        const QImage filz = tisch_.grab().toImage();
+        tisch_.setzeSpiel(&spiel_);
+        const QImage nachher = tisch_.grab().toImage();
+        EXPECT_NE(vorher.pixel(ort.toPoint()), filz.pixel(ort.toPoint()));
+        EXPECT_EQ(nachher.pixel(ort.toPoint()), filz.pixel(ort.toPoint())) << animation;
+        spiel_ = spielMitPikAufspiel();
+        tisch_.setzeStichSichtbar(true);
+        tisch_.neuZeichnen();
+    }
+}
+
 // The pictured table: every own card and every trick card is drawn where the layout
 // puts it. With TRUMPONA_TESTBILDER set the pictures are kept for looking at.
 TEST_F(TischansichtTest, TischBildMitFranzoesischenUndDeutschenKarten) {

@@ -40,19 +40,3 @@ TEST(Klangzuordnung, ReadmeZeigtDieselbeTabelle) {
     for (const Klangzuordnung& z : klangzuordnungen()) code.emplace(z.nummer, std::string(z.name));
     EXPECT_EQ(readme, code);
 }
-
-TEST(Klangzuordnung, SoloUndLimitNachCode) {
-    struct Solo { int typ; bool franzoesisch; std::optional<Klang> klang; };
-    for (const Solo f : {Solo{1, true, Klang::KaroSolo}, Solo{1, false, Klang::SchellenSolo},
-                         Solo{2, false, Klang::RotSolo}, Solo{4, true, Klang::KreuzSolo},
-                         Solo{5, false, Klang::UnterSolo}, Solo{7, true, Klang::DamenBubenSolo},
-                         Solo{7, false, Klang::OberUnterSolo}, Solo{8, false, Klang::SoloOhneTrumpf},
-                         Solo{0, true, std::nullopt}, Solo{9, false, std::nullopt}}) {
-        EXPECT_EQ(soloKlang(f.typ, f.franzoesisch), f.klang) << f.typ << f.franzoesisch;
-    }
-    struct Limit { int code; std::optional<Klang> klang; };
-    for (const Limit f : {Limit{3, Klang::Keine90}, Limit{2, Klang::Keine60}, Limit{1, Klang::Keine30},
-                          Limit{0, Klang::Schwarz}, Limit{-1, std::nullopt}, Limit{4, std::nullopt}}) {
-        EXPECT_EQ(limitKlang(f.code), f.klang) << f.code;
-    }
-}

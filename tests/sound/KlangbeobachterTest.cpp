@@ -56,6 +56,7 @@ TEST(Klangbeobachter, SpielartZuBeginn) {
                           Fall{"Damen-Buben-Solo", 7, true, 0, 0, false, true, {15}},
                           Fall{"Ober-Unter-Solo", 7, true, 0, 0, false, false, {23}},
                           Fall{"Fleischloser", 8, true, 0, 0, false, false, {16}},
+                          Fall{"unbekannte Spielart", 9, true, 0, 0, false, true, {}},
                           Fall{"Hochzeit", 1, false, 3, 0, false, true, {7}},
                           Fall{"stilles Solo", 1, false, 0, 0, false, true, {}},
                           Fall{"eigene Schweine", 1, false, 0, 1, false, true, {24}},

@@ -12,7 +12,9 @@ namespace sound {
 
 namespace {
 
-constexpr int NachlaufMs = 150;   // silence after each sound, so the sink plays it out
+// Silence after each sound, so the sink plays it out: the stream starts only
+// once its (about 100 ms) buffer has filled, which a short click alone never does.
+constexpr int NachlaufMs = 150;
 constexpr int BlendeMs = 2;       // soft edges against clicks where a cut meets a wave
 constexpr int FuellTaktMs = 10;
 constexpr int WarteGrenzeMs = 500;  // beyond the sound's length before a wait gives up

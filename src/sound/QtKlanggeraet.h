@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 
+#include "Klangausgabe.h"
 #include "Klanggeraet.h"
 #include "Wavdatei.h"
 
@@ -16,10 +17,6 @@ class QAudioSink;
 class QIODevice;
 
 namespace sound {
-
-// Whether the machine has an audio output device; sound counts as unavailable
-// without one (the options reader switches speech and effects off then).
-bool klangausgabeVorhanden();
 
 class QtKlanggeraet final : public QObject, public Klanggeraet {
     Q_OBJECT

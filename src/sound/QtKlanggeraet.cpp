@@ -107,12 +107,12 @@ bool QtKlanggeraet::spielen(Segment segment, bool warten) {
     QElapsedTimer uhr;
     uhr.start();
     const qint64 dauerUs = static_cast<qint64>(segment.dauer()) * 1000;
-    while (true) {
+    while (sink_->processedUSecs() < dauerUs && uhr.elapsed() <= segment.dauer() + WarteGrenzeMs) {
         nachfuellen();
-        const bool gehoert = sink_->processedUSecs() >= dauerUs;
-        if ((ausstehend_.isEmpty() && gehoert) || uhr.elapsed() > segment.dauer() + WarteGrenzeMs) break;
-        QThread::msleep(5);
+        QThread::msleep(2);
     }
+    // The rest of the silent tail goes in from the event loop.
+    if (!ausstehend_.isEmpty()) fuellTakt_.start();
     return true;
 }
 

@@ -1,0 +1,26 @@
+#include "Tonausgabe.h"
+
+#include <QAudioDevice>
+#include <QMediaDevices>
+
+namespace settings {
+
+namespace {
+
+std::function<bool()>& pruefung() {
+    static std::function<bool()> p;
+    return p;
+}
+
+}  // namespace
+
+bool tonVerfuegbar() {
+    if (pruefung()) return pruefung()();
+    return !QMediaDevices::audioOutputs().isEmpty();
+}
+
+void setzeTonpruefung(std::function<bool()> p) { pruefung() = std::move(p); }
+
+Lesekontext startLesekontext() { return Lesekontext{tonVerfuegbar(), false}; }
+
+}  // namespace settings

@@ -32,19 +32,7 @@ void Zeilenschreiber::text(std::string_view wert) {
 
 std::string Zeilenschreiber::bytes() const { return settings::utf8NachCp1252(text_); }
 
-Zeilenleser::Zeilenleser(std::string_view bytes) {
-    const std::string text = settings::dateiTextDekodieren(bytes);
-    std::size_t anfang = 0;
-    while (anfang < text.size()) {
-        const auto ende = text.find_first_of("\r\n", anfang);
-        if (ende == std::string::npos) {
-            zeilen_.push_back(text.substr(anfang));
-            break;
-        }
-        zeilen_.push_back(text.substr(anfang, ende - anfang));
-        anfang = ende + (text.compare(ende, 2, "\r\n") == 0 ? 2 : 1);
-    }
-}
+Zeilenleser::Zeilenleser(std::string_view bytes) : zeilen_(settings::dateiZeilen(bytes)) {}
 
 const std::string* Zeilenleser::naechsteZeile() {
     if (fehler_ || naechste_ >= zeilen_.size()) {

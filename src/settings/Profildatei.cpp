@@ -55,18 +55,8 @@ std::string einzeilig(std::string_view wert) {
 }  // namespace
 
 Profildatei Profildatei::ausBytes(std::string_view bytes) {
-    const std::string text = dateiTextDekodieren(bytes);
     Profildatei datei;
-    std::size_t anfang = 0;
-    while (anfang < text.size()) {
-        const auto ende = text.find_first_of("\r\n", anfang);
-        if (ende == std::string::npos) {
-            datei.zeilen_.push_back(text.substr(anfang));
-            break;
-        }
-        datei.zeilen_.push_back(text.substr(anfang, ende - anfang));
-        anfang = ende + (text.compare(ende, 2, "\r\n") == 0 ? 2 : 1);
-    }
+    datei.zeilen_ = dateiZeilen(bytes);
     return datei;
 }
 

@@ -132,6 +132,22 @@ std::string dateiTextDekodieren(std::string_view bytes) {
     return cp1252NachUtf8(bytes);
 }
 
+std::vector<std::string> dateiZeilen(std::string_view bytes) {
+    const std::string text = dateiTextDekodieren(bytes);
+    std::vector<std::string> zeilen;
+    std::size_t anfang = 0;
+    while (anfang < text.size()) {
+        const auto ende = text.find_first_of("\r\n", anfang);
+        if (ende == std::string::npos) {
+            zeilen.push_back(text.substr(anfang));
+            break;
+        }
+        zeilen.push_back(text.substr(anfang, ende - anfang));
+        anfang = ende + (text.compare(ende, 2, "\r\n") == 0 ? 2 : 1);
+    }
+    return zeilen;
+}
+
 std::string faltung(std::string_view text) {
     std::string ergebnis;
     ergebnis.reserve(text.size());

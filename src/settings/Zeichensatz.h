@@ -3,6 +3,7 @@
 // private-profile functions use when they compare section and key names.
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace settings {
 
@@ -18,6 +19,9 @@ bool istGueltigesUtf8(std::string_view bytes);
 
 // Decodes a file's bytes: UTF-8 with a byte-order mark, valid UTF-8, or else Windows-1252.
 std::string dateiTextDekodieren(std::string_view bytes);
+
+// The decoded lines of a text file; CRLF, LF and a lone CR all end a line.
+std::vector<std::string> dateiZeilen(std::string_view bytes);
 
 // Lower-case form for comparisons: ASCII and the Latin letters of Windows-1252
 // (umlauts included); invalid UTF-8 is compared byte by byte.

@@ -1,7 +1,6 @@
 #include "Tonausgabe.h"
 
-#include <QAudioDevice>
-#include <QMediaDevices>
+#include "sound/Klangausgabe.h"
 
 namespace settings {
 
@@ -16,7 +15,7 @@ std::function<bool()>& pruefung() {
 
 bool tonVerfuegbar() {
     if (pruefung()) return pruefung()();
-    return !QMediaDevices::audioOutputs().isEmpty();
+    return sound::klangausgabeVorhanden();
 }
 
 void setzeTonpruefung(std::function<bool()> p) { pruefung() = std::move(p); }

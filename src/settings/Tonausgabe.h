@@ -1,5 +1,5 @@
 #pragma once
-// Whether sound can be played: at least one audio output device. Tests replace
+// Whether sound can be played: the sound module finds an audio output device. Tests replace
 // the check so they do not depend on the machine's devices.
 #include <functional>
 

@@ -385,14 +385,21 @@ int rueckseiteNummer(int gespeichert) {
     return ((gespeichert - 1) % AnzahlRueckseiten + AnzahlRueckseiten) % AnzahlRueckseiten + 1;
 }
 
-void vorderseiteMalen(QPainter& m, const QRectF& r, int code, bool franz) {
-    m.save();
+namespace {
+// The white card with its thin edge; returns the outline.
+QPainterPath kartengrundMalen(QPainter& m, const QRectF& r) {
     m.setRenderHint(QPainter::Antialiasing);
     const QPainterPath umriss = kartenUmriss(r);
     m.setPen(QPen(QColor(90, 90, 90), std::max<qreal>(1.0, r.width() * 0.008)));
     m.setBrush(QColor(252, 252, 248));
     m.drawPath(umriss);
-    m.setClipPath(umriss);
+    return umriss;
+}
+}  // namespace
+
+void vorderseiteMalen(QPainter& m, const QRectF& r, int code, bool franz) {
+    m.save();
+    m.setClipPath(kartengrundMalen(m, r));
     if (engine::istJoker(code)) {
         jokerMalen(m, r);
     } else if (code >= 1 && code <= 24) {
@@ -409,11 +416,7 @@ void vorderseiteMalen(QPainter& m, const QRectF& r, int code, bool franz) {
 
 void rueckseiteMalen(QPainter& m, const QRectF& r, int nummer) {
     m.save();
-    m.setRenderHint(QPainter::Antialiasing);
-    const QPainterPath umriss = kartenUmriss(r);
-    m.setPen(QPen(QColor(90, 90, 90), std::max<qreal>(1.0, r.width() * 0.008)));
-    m.setBrush(QColor(250, 250, 246));
-    m.drawPath(umriss);
+    kartengrundMalen(m, r);
     const qreal rand = r.width() * 0.06;
     const QRectF innen = r.adjusted(rand, rand, -rand, -rand);
     QPainterPath innenUmriss;

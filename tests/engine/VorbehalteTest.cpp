@@ -176,8 +176,8 @@ TEST(Vorbehalte, Hochzeitspartner) {
 TEST(Vorbehalte, Pflichtsolo) {
     RegelOptionen o = Tisch::vorhandEins();
     o.solo = -1;
-    o.endeNach = 2;
-    // Two games left and four seats owing: seat 1, first from Vorhand, must play now.
+    o.endeNach = 4;
+    // Four games left and four seats owing: seat 1, first from Vorhand, must play now.
     Tisch mensch(o);
     mensch.geben(verteilung({}));
     EXPECT_TRUE(mensch.anfrage().vorbehalt.pflichtsolo);
@@ -196,8 +196,8 @@ TEST(Vorbehalte, Pflichtsolo) {
     EXPECT_EQ(computer.spiel.spieltyp, Normalspiel);
     EXPECT_EQ(computer.spiel.solist, Sitz(1));
 
-    // Enough games left: nobody is forced, but a solo still counts as the duty solo.
-    o.endeNach = 24;
+    // One game more than seats owing: nobody is forced, but a solo still counts as the duty solo.
+    o.endeNach = 5;
     Tisch frei(o);
     frei.geben(verteilung({}));
     EXPECT_FALSE(frei.anfrage().vorbehalt.pflichtsolo);

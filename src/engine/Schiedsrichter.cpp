@@ -50,6 +50,7 @@ void Schiedsrichter::kartenGegeben(const Spiel& spiel) {
         pruefe(spiel, spiel.deck[p].status == InHand, "Karte nicht auf der Hand: " + std::to_string(p));
     gespielt_.fill(false);
     standVorher_ = spiel.partie.punkte;
+    if (spiel.partie.spielNr == 1) bockFaellig_ = false;
 }
 
 void Schiedsrichter::parteienPruefen(const Spiel& spiel, bool amEnde) {
@@ -231,6 +232,8 @@ void Schiedsrichter::wertungPruefen(const Spiel& spiel) {
     const int ergebnis = e.spielwert * e.faktor + spGewinner - spVerlierer;
     pruefe(spiel, e.ergebnis == ergebnis, "Ergebnis " + std::to_string(e.ergebnis) + ", erwartet " +
                                               std::to_string(ergebnis));
+    pruefe(spiel, e.bock == (bockFaellig_ && spiel.regeln.bockrunden), "Bockspiel falsch");
+    bockFaellig_ = ergebnis == 0 && spiel.regeln.bockrunden;
     int betrag = ergebnis < 0 ? -ergebnis : ergebnis;
     if (e.bock) betrag *= 2;
     const int gebucht = ergebnis < 0 ? (gewinner == ParteiRe ? ParteiKontra : ParteiRe) : gewinner;

@@ -35,6 +35,7 @@ private:
     int spiele_ = 0;
     std::array<bool, MaxPositionen + 1> gespielt_{};
     ProSitz<int> standVorher_;
+    bool bockFaellig_ = false;  // the previous game of this Partie ended in a kalter Schlag
 };
 
 }  // namespace engine

@@ -16,8 +16,8 @@ constexpr int PikDame = 15, PikAs = 18, KreuzAs = 24, HerzAs = 12;
 
 // Seat 1's hand in a normal game; the rest of the block is plain Kreuz and Pik.
 Spiel mitHand(std::vector<int> hand) {
-    std::vector<int> fuell{KreuzAs, KreuzAs, PikAs, PikAs, HerzAs, HerzAs, KreuzAs};
-    for (std::size_t i = 0; hand.size() < 12; ++i) hand.push_back(fuell[i]);
+    const std::vector<int> fuell{KreuzAs, PikAs, HerzAs};
+    for (std::size_t i = 0; hand.size() < 12; ++i) hand.push_back(fuell[i % fuell.size()]);
     return spielMitHaenden(Normalspiel, {hand});
 }
 }  // namespace

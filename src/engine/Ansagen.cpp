@@ -28,21 +28,41 @@ int faktorAusAnsagen(const Spiel& spiel) {
     return (parteiHatAngesagt(spiel, ParteiRe) ? 2 : 1) * (parteiHatAngesagt(spiel, ParteiKontra) ? 2 : 1);
 }
 
-std::optional<std::string> ansageVerweigert(const Spiel& spiel, Sitz sitz, const Ansage& ansage) {
+Ansagesperre ansageSperre(const Spiel& spiel, Sitz sitz, const Ansage& ansage) {
     const Spielphase phase = spiel.ablauf.phase;
-    if (phase != Spielphase::Kartenspiel && phase != Spielphase::StichVoll) return std::string(NichtJetzt);
+    if (phase != Spielphase::Kartenspiel && phase != Spielphase::StichVoll) return Ansagesperre::NichtJetzt;
     if (!ansage.limit) {
-        if (spiel.regeln.kontra <= 0) return std::string(KeineAnsagen);
-        if (spiel.sticheGespielt >= spiel.regeln.kontra) return std::string(FristVorbei);
-        if (parteiHatAngesagt(spiel, seite(spiel, sitz))) return std::string();
-        return std::nullopt;
+        if (spiel.regeln.kontra <= 0) return Ansagesperre::KeineAnsagen;
+        if (spiel.sticheGespielt >= spiel.regeln.kontra) return Ansagesperre::FristVorbei;
+        if (parteiHatAngesagt(spiel, seite(spiel, sitz))) return Ansagesperre::SchonAngesagt;
+        return Ansagesperre::Keine;
     }
-    if (spiel.regeln.limit <= 0) return std::string(KeineLimits);
-    if (ansage.limitCode < LimitSchwarz || ansage.limitCode > Keine90) return std::string(NichtJetzt);
-    if (spiel.sticheGespielt == 0 && spiel.stich.anzahl == 0) return std::string(LimitVorErsterKarte);
-    if (spiel.sticheGespielt >= spiel.regeln.limit) return std::string(FristVorbei);
-    if (spiel.limitSitz) return std::string(LimitSchonAngesagt);
-    return std::nullopt;
+    if (spiel.regeln.limit <= 0) return Ansagesperre::KeineLimits;
+    if (ansage.limitCode < LimitSchwarz || ansage.limitCode > Keine90) return Ansagesperre::NichtJetzt;
+    if (spiel.sticheGespielt == 0 && spiel.stich.anzahl == 0) return Ansagesperre::VorErsterKarte;
+    if (spiel.sticheGespielt >= spiel.regeln.limit) return Ansagesperre::FristVorbei;
+    if (spiel.limitSitz) return Ansagesperre::LimitSchon;
+    return Ansagesperre::Keine;
+}
+
+std::string_view sperrText(Ansagesperre sperre) {
+    switch (sperre) {
+        case Ansagesperre::NichtJetzt: return NichtJetzt;
+        case Ansagesperre::KeineAnsagen: return KeineAnsagen;
+        case Ansagesperre::KeineLimits: return KeineLimits;
+        case Ansagesperre::FristVorbei: return FristVorbei;
+        case Ansagesperre::VorErsterKarte: return LimitVorErsterKarte;
+        case Ansagesperre::LimitSchon: return LimitSchonAngesagt;
+        case Ansagesperre::Keine:
+        case Ansagesperre::SchonAngesagt: break;
+    }
+    return {};
+}
+
+std::optional<std::string> ansageVerweigert(const Spiel& spiel, Sitz sitz, const Ansage& ansage) {
+    const Ansagesperre sperre = ansageSperre(spiel, sitz, ansage);
+    if (sperre == Ansagesperre::Keine) return std::nullopt;
+    return std::string(sperrText(sperre));
 }
 
 AnsageEintrag ansageEintragen(Spiel& spiel, Sitz sitz, const Ansage& ansage) {
@@ -111,11 +131,11 @@ Ansagemenue ansagemenue(const Spiel& spiel, Sitz sitz) {
     const bool re = seite(spiel, sitz) == ParteiRe;
     const bool angesagt = parteiHatAngesagt(spiel, re ? ParteiRe : ParteiKontra);
     m.reKontra.text = std::string(re ? (angesagt ? ReAusgerufen : ReAusrufen) : (angesagt ? KontraGegeben : KontraGeben));
-    m.reKontra.aktiv = !ansageVerweigert(spiel, sitz, Ansage{});
+    m.reKontra.aktiv = ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine;
     for (int code = LimitSchwarz; code <= Keine90; ++code) {
         Menuepunkt& p = m.limits[static_cast<std::size_t>(code)];
         p.text = limitMenuetext(code);
-        p.aktiv = !ansageVerweigert(spiel, sitz, Ansage{true, code});
+        p.aktiv = ansageSperre(spiel, sitz, Ansage{true, code}) == Ansagesperre::Keine;
         p.markiert = spiel.limitSitz.has_value() && spiel.limitCode == code;
         m.limit.aktiv = m.limit.aktiv || p.aktiv;
     }

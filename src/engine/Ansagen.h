@@ -46,8 +46,22 @@ bool parteiHatAngesagt(const Spiel& spiel, int seite);
 // 2 for each side that has announced.
 int faktorAusAnsagen(const Spiel& spiel);
 
-// Empty when the seat may make the announcement now, else the reason; the reason
-// is an empty text when the menu entry simply does nothing (the party has announced).
+// Why an announcement cannot be made now.
+enum class Ansagesperre {
+    Keine,            // allowed
+    NichtJetzt,       // no game running, or no such limit
+    KeineAnsagen,     // rule "Kontra" is 0
+    KeineLimits,      // rule "Limit" is 0
+    FristVorbei,
+    SchonAngesagt,    // the seat's side has announced: the menu entry simply does nothing
+    VorErsterKarte,   // a limit before the first card
+    LimitSchon,       // a limit has been announced in this game
+};
+Ansagesperre ansageSperre(const Spiel& spiel, Sitz sitz, const Ansage& ansage);
+// The refusal text; empty for Keine and SchonAngesagt.
+std::string_view sperrText(Ansagesperre sperre);
+
+// Empty when the seat may make the announcement now, else the refusal text.
 std::optional<std::string> ansageVerweigert(const Spiel& spiel, Sitz sitz, const Ansage& ansage);
 
 // Records an allowed announcement: flags, factor, the per-trick record, the list.

@@ -26,7 +26,7 @@ public:
     int spiele() const { return spiele_; }
 
 private:
-    void pruefe(const Spiel& spiel, bool bedingung, const std::string& was);
+    void melde(const Spiel& spiel, const std::string& was);
     void parteienPruefen(const Spiel& spiel, bool amEnde);
     void wertungPruefen(const Spiel& spiel);
 

@@ -23,22 +23,23 @@ Selbstspielbilanz Selbstspiel::spielen(int spiele, const std::function<void(cons
     Selbstspielbilanz bilanz;
     const Spiel& spiel = ablauf_.spiel();
     while (bilanz.spiele < spiele) {
-        const Anfrage a = ablauf_.anfrage();
-        switch (a.art) {
+        const Anfrageart art = ablauf_.offeneArt();
+        switch (art) {
             case Anfrageart::Geben:
                 ablauf_.antworten(Antwort::zufallsGeben());
                 break;
             case Anfrageart::Neugeben:
-                ablauf_.antworten(Antwort::neugeben(a.neugeben.computerWuerde));
+                ablauf_.antworten(Antwort::neugeben(ablauf_.anfrage().neugeben.computerWuerde));
                 break;
             case Anfrageart::Vorbehalt: {
-                const Bescheid b = ablauf_.antworten(Antwort::mitVorbehalt(entscheider_[*a.sitz]->vorbehaltWaehlen(spiel, *a.sitz)));
+                const Sitz s = ablauf_.sitzDerAnfrage();
+                const Bescheid b = ablauf_.antworten(Antwort::mitVorbehalt(entscheider_[s]->vorbehaltWaehlen(spiel, s)));
                 ablehnung(bilanz, b);
                 if (!b) ablauf_.antworten(Antwort::mitVorbehalt(Vorbehalt{}));
                 break;
             }
             case Anfrageart::Karte: {
-                const Sitz s = *a.sitz;
+                const Sitz s = ablauf_.sitzDerAnfrage();
                 Entscheider& e = *entscheider_[s];
                 if (ablauf_.ansageMoeglich(s)) {
                     if (const auto ansage = e.ansageWaehlen(spiel, s)) ablehnung(bilanz, ablauf_.ansagen(s, *ansage));
@@ -49,16 +50,16 @@ Selbstspielbilanz Selbstspiel::spielen(int spiele, const std::function<void(cons
                 break;
             }
             case Anfrageart::StichEinsammeln:
-                ablauf_.antworten(Antwort::weiter(a.art));
+                ablauf_.antworten(Antwort::weiter(art));
                 break;
             case Anfrageart::NaechstesSpiel:
                 ++bilanz.spiele;
                 if (nachSpiel) nachSpiel(spiel);
                 // The last game stays on the table for whoever looks at it.
-                if (bilanz.spiele < spiele) ablauf_.antworten(Antwort::weiter(a.art));
+                if (bilanz.spiele < spiele) ablauf_.antworten(Antwort::weiter(art));
                 break;
             case Anfrageart::NeuePartie:
-                ablauf_.antworten(Antwort::weiter(a.art));
+                ablauf_.antworten(Antwort::weiter(art));
                 break;
         }
     }

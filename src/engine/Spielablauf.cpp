@@ -59,7 +59,7 @@ void Spielablauf::fortsetzen() {
     }
 }
 
-Sitz Spielablauf::aktuellerSitz() const {
+Sitz Spielablauf::sitzDerAnfrage() const {
     const Ablaufstand& a = spiel_.ablauf;
     switch (a.phase) {
         case Spielphase::Neugeben: return Sitz(std::clamp(a.pruefSitz, 1, 4));
@@ -71,22 +71,19 @@ Sitz Spielablauf::aktuellerSitz() const {
 Anfrage Spielablauf::anfrage() const {
     using namespace ablauftext;
     Anfrage a;
+    a.art = offeneArt();
     const Spielphase phase = spiel_.ablauf.phase;
     if (phase == Spielphase::Geben) return a;
     if (phase == Spielphase::StichVoll || phase == Spielphase::Spielende || phase == Spielphase::Partieende) {
-        a.art = phase == Spielphase::StichVoll  ? Anfrageart::StichEinsammeln
-                : phase == Spielphase::Spielende ? Anfrageart::NaechstesSpiel
-                                                 : Anfrageart::NeuePartie;
         a.status = std::string(phase == Spielphase::StichVoll ? StichKomplett : SpielBeendet);
         return a;
     }
-    const Sitz s = aktuellerSitz();
+    const Sitz s = sitzDerAnfrage();
     a.sitz = s;
     a.steuerung = spiel_.steuerung[s];
     const bool mensch = a.steuerung == Steuerung::Mensch;
     const bool netz = a.steuerung == Steuerung::Netz;
     if (phase == Spielphase::Neugeben) {
-        a.art = Anfrageart::Neugeben;
         const int grund = spiel_.ablauf.pruefung;
         a.neugeben.grund = grund;
         a.neugeben.anzahl = neugebeAnzahl(spiel_, s, grund);
@@ -94,14 +91,13 @@ Anfrage Spielablauf::anfrage() const {
         a.neugeben.computerWuerde = computerWillNeugeben(spiel_, s, grund);
         if (netz) a.status = std::string(BitteWarten);
     } else if (phase == Spielphase::Vorbehalte) {
-        a.art = Anfrageart::Vorbehalt;
         a.vorbehalt.soloarten = erlaubteSoloarten(spiel_.regeln);
-        if (!a.vorbehalt.soloarten.empty()) a.vorbehalt.soloFrage = soloFrage(spiel_, s);
+        // The question is for a person; computer seats decide without it.
+        if (!a.vorbehalt.soloarten.empty() && a.steuerung != Steuerung::Computer) a.vorbehalt.soloFrage = soloFrage(spiel_, s);
         a.vorbehalt.hochzeitMoeglich = hatBeideKreuzDamen(spiel_, s);
         a.vorbehalt.pflichtsolo = mussPflichtsolo(spiel_, s);
         if (!mensch) a.status = std::string(vorbehalttext::WarteAufVorbehalte);
     } else {
-        a.art = Anfrageart::Karte;
         if (mensch && spiel_.automatik) a.steuerung = Steuerung::Computer;
         a.status = a.steuerung == Steuerung::Mensch     ? std::string(IhreKarte)
                    : a.steuerung == Steuerung::Computer ? spiel_.namen[s] + std::string(Ueberlegt)
@@ -110,14 +106,26 @@ Anfrage Spielablauf::anfrage() const {
     return a;
 }
 
+Anfrageart Spielablauf::offeneArt() const {
+    switch (spiel_.ablauf.phase) {
+        case Spielphase::Geben: return Anfrageart::Geben;
+        case Spielphase::Neugeben: return Anfrageart::Neugeben;
+        case Spielphase::Vorbehalte: return Anfrageart::Vorbehalt;
+        case Spielphase::Kartenspiel: return Anfrageart::Karte;
+        case Spielphase::StichVoll: return Anfrageart::StichEinsammeln;
+        case Spielphase::Spielende: return Anfrageart::NaechstesSpiel;
+        case Spielphase::Partieende: break;
+    }
+    return Anfrageart::NeuePartie;
+}
+
 Bescheid Spielablauf::antworten(const Antwort& antwort) {
-    const Anfrage offen = anfrage();
-    if (antwort.art != offen.art) return Bescheid::abgelehnt(std::string(ablauftext::FalscheAntwort));
+    if (antwort.art != offeneArt()) return Bescheid::abgelehnt(std::string(ablauftext::FalscheAntwort));
     switch (antwort.art) {
         case Anfrageart::Geben: return geben(antwort);
         case Anfrageart::Neugeben:
             if (antwort.ja) {
-                neugeben(*offen.sitz);
+                neugeben(sitzDerAnfrage());
             } else {
                 ++spiel_.ablauf.pruefSitz;
                 neugebenPruefen();
@@ -189,7 +197,7 @@ void Spielablauf::neugeben(Sitz s) {
 }
 
 bool Spielablauf::mussGefragtWerden(Sitz s) const {
-    return !erlaubteSoloarten(spiel_.regeln).empty() || hatBeideKreuzDamen(spiel_, s) || mussPflichtsolo(spiel_, s);
+    return spiel_.regeln.solis || hatBeideKreuzDamen(spiel_, s) || mussPflichtsolo(spiel_, s);
 }
 
 void Spielablauf::vorbehalteFragen() {
@@ -211,7 +219,7 @@ void Spielablauf::vorbehalteFragen() {
 Bescheid Spielablauf::vorbehaltAnnehmen(const Vorbehalt& v) {
     using namespace vorbehalttext;
     Ablaufstand& a = spiel_.ablauf;
-    const Sitz s = aktuellerSitz();
+    const Sitz s = sitzDerAnfrage();
     Vorbehalt wahl = v;
     if (v.art == Vorbehalt::Solo && !soloErlaubt(spiel_.regeln, v.spieltyp))
         return Bescheid::abgelehnt(std::string(SoloNichtErlaubt));
@@ -315,9 +323,9 @@ Bescheid Spielablauf::ansagen(Sitz sitz, const Ansage& ansage) {
 }
 
 bool Spielablauf::ansageMoeglich(Sitz sitz) const {
-    if (!ansageVerweigert(spiel_, sitz, Ansage{})) return true;
+    if (ansageSperre(spiel_, sitz, Ansage{}) == Ansagesperre::Keine) return true;
     for (int code = LimitSchwarz; code <= Keine90; ++code)
-        if (!ansageVerweigert(spiel_, sitz, Ansage{true, code})) return true;
+        if (ansageSperre(spiel_, sitz, Ansage{true, code}) == Ansagesperre::Keine) return true;
     return false;
 }
 

@@ -51,7 +51,7 @@ struct Neugebeanfrage {
 };
 
 struct Vorbehaltanfrage {
-    std::string soloFrage;        // the question before the solo dialog; empty when no solo is allowed
+    std::string soloFrage;        // the question before the solo dialog (for a person; empty when no solo is allowed)
     std::vector<int> soloarten;   // game types the solo dialog offers
     bool hochzeitMoeglich = false;  // the seat holds both Kreuz-Damen
     bool pflichtsolo = false;     // the seat must declare a solo now
@@ -110,6 +110,9 @@ public:
 
     Anfrage anfrage() const;
     Bescheid antworten(const Antwort& antwort);
+    // The kind and seat of the open request alone, without building its texts.
+    Anfrageart offeneArt() const;
+    Sitz sitzDerAnfrage() const;
 
     // Announcements of any seat while allowed.
     Bescheid ansagen(Sitz sitz, const Ansage& ansage);
@@ -136,7 +139,6 @@ private:
     void parteienBekannt();
     void melden(const Meldung& m);
     void melden(const std::vector<Meldung>& m);
-    Sitz aktuellerSitz() const;
 
     Spiel& spiel_;
     Zufallsquelle& zufall_;

@@ -3,9 +3,10 @@
 // reservations make them, points as value, factor, special points and parties give.
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "engine/Schiedsrichter.h"
 #include "engine/Selbstspiel.h"
-#include "engine/Stichspiel.h"
 #include "engine/Vorbehalte.h"
 #include "engine/Zufall.h"
 
@@ -20,10 +21,17 @@ public:
     explicit Wagemut(Zufallsquelle& zufall) : zufall_(zufall) {}
 
     int karteWaehlen(const Spiel& spiel, Sitz sitz) override {
-        std::vector<int> erlaubt;
-        for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
-            if (spiel.deck[p].status == InHand && karteErlaubt(spiel, sitz, p)) erlaubt.push_back(p);
-        return erlaubt.empty() ? 0 : erlaubt[static_cast<std::size_t>(zufall_.ganzzahl(static_cast<int>(erlaubt.size())))];
+        // The cards of the suit to follow when the hand has one, else any card.
+        std::array<int, 12> alle{}, bedienen{};
+        int nAlle = 0, nBedienen = 0;
+        const int farbe = spiel.stich.anzahl > 0 ? spiel.stich.farbeZuBedienen : 0;
+        for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p) {
+            if (spiel.deck[p].status != InHand) continue;
+            alle[static_cast<std::size_t>(nAlle++)] = p;
+            if (spiel.deck[p].farbe == farbe) bedienen[static_cast<std::size_t>(nBedienen++)] = p;
+        }
+        if (nBedienen > 0) return bedienen[static_cast<std::size_t>(zufall_.ganzzahl(nBedienen))];
+        return nAlle == 0 ? 0 : alle[static_cast<std::size_t>(zufall_.ganzzahl(nAlle))];
     }
     Vorbehalt vorbehaltWaehlen(const Spiel& spiel, Sitz sitz) override {
         const double r = zufall_.rnd();
@@ -54,52 +62,47 @@ struct Regelsatz {
 
 const Regelsatz regelsaetze[] = {
     {"Standard", [](RegelOptionen&) {}},
-    {"ohne Neunen, zweite Dolle hoch",
+    {"ohne Neunen, zweite Dolle hoch, Neugeben, Solospieler hat Vorhand, Ende nach Punkten",
      [](RegelOptionen& o) {
          o.scharferRupa = -1;
          o.herzZehn = 0;
+         o.koenigewerfen = o.armut = -1;
+         o.vhSolo = o.hhNSolo = -1;
+         o.abrOption = 1;
+         o.endeBei = 20;
      }},
-    {"Joker, alle Sonderpunkte, Bock",
+    {"Joker, alle Sonderpunkte, Bock, Schweine, Supersau, Damen-Buben-Solo",
      [](RegelOptionen& o) {
          o.joker = -1;
          o.sopuFuchs = o.sopuDoppelfuchs = o.sopuKarlchen = o.sopuDoppelkarlchen = -1;
          o.sopuRupaBSolo = o.sopuDollenschlag = o.sopuHerzstich = -1;
          o.bockrunden = -1;
-     }},
-    {"Schweine, Supersau, Damen-Buben-Solo",
-     [](RegelOptionen& o) {
          o.zweiSchweine = o.schweineAnsagen = o.schweineBTrSolo = o.supersau = -1;
-         o.sopuDollenschlag = o.sopuFuchs = -1;
          o.dabuSolo = -1;
      }},
-    {"keine Ansagen, Pflichtsolo",
+    {"keine Ansagen, Pflichtsolo, Neunerwerfen",
      [](RegelOptionen& o) {
          o.kontra = 0;
          o.limit = 0;
          o.solo = -1;
          o.endeNach = 8;
+         o.neunerwerfen = -1;
      }},
-    {"Neugeben, Solospieler hat Vorhand, Ende nach Punkten",
-     [](RegelOptionen& o) {
-         o.neunerwerfen = o.koenigewerfen = o.armut = -1;
-         o.vhSolo = o.hhNSolo = -1;
-         o.abrOption = 1;
-         o.endeBei = 20;
-     }},
-    {"ohne Solos, kurze Fristen, stille Supersau, Bock",
+    {"ohne Solos, kurze Fristen, Schweine, Bock",
      [](RegelOptionen& o) {
          o.solis = 0;
          o.kontra = 1;
          o.limit = 2;
-         o.zweiSchweine = o.supersau = o.stilleBefoerderung = -1;
+         o.zweiSchweine = -1;
          o.bockrunden = -1;
      }},
-    {"lange Partie über 96 Spiele",
+    {"lange Partie über 96 Spiele, stille Supersau",
      [](RegelOptionen& o) {
          o.endeNach = 200;
          o.endeBei = 150;
          o.joker = -1;
          o.vhSolo = -1;
+         o.zweiSchweine = o.supersau = o.stilleBefoerderung = -1;
      }},
 };
 

@@ -47,6 +47,15 @@ inline engine::Kartenverteilung verteilung(std::initializer_list<std::vector<int
     return k;
 }
 
+inline engine::ProSitz<int> proSitz(int a, int b, int c, int d) {
+    engine::ProSitz<int> x;
+    x[engine::Sitz(1)] = a;
+    x[engine::Sitz(2)] = b;
+    x[engine::Sitz(3)] = c;
+    x[engine::Sitz(4)] = d;
+    return x;
+}
+
 // Seat 1 is the person at the table unless told otherwise; Vorhand is seat 1.
 struct Tisch {
     engine::Spiel spiel;

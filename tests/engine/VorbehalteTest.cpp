@@ -5,6 +5,7 @@
 #include "engine/Vorbehalte.h"
 
 using namespace engine;
+using testhilfe::proSitz;
 using testhilfe::positionVon;
 using testhilfe::Tisch;
 using testhilfe::verteilung;
@@ -82,18 +83,13 @@ TEST(Vorbehalte, WasDieRundeErgibt) {
         int hochzeiter, stillerSolist;
         const char* meldung;  // the Solo or Hochzeit message, "" for none
     };
-    auto p = [](int a, int b, int c, int d) {
-        ProSitz<int> x;
-        x[Sitz(1)] = a; x[Sitz(2)] = b; x[Sitz(3)] = c; x[Sitz(4)] = d;
-        return x;
-    };
     const Fall faelle[] = {
-        {"stilles Solo", {{}, {}, {}, {}}, Normalspiel, p(3, 1, 1, 1), 0, 1, ""},
-        {"Hochzeit", {hochzeit(ErsterStich), {}, {}, {}}, Normalspiel, p(2, 1, 1, 1), 1, 0,
+        {"stilles Solo", {{}, {}, {}, {}}, Normalspiel, proSitz(3, 1, 1, 1), 0, 1, ""},
+        {"Hochzeit", {hochzeit(ErsterStich), {}, {}, {}}, Normalspiel, proSitz(2, 1, 1, 1), 1, 0,
          "Sie heiraten den Gewinner  des ersten Stichs! "},
-        {"Solo geht vor Hochzeit", {hochzeit(ErsterFehlstich), solo(PikSolo)}, PikSolo, p(1, 3, 1, 1), 0, 0,
+        {"Solo geht vor Hochzeit", {hochzeit(ErsterFehlstich), solo(PikSolo)}, PikSolo, proSitz(1, 3, 1, 1), 0, 0,
          "Spieler2 spielt ein Pik-Solo!"},
-        {"Karo-Solo", {{}, {}, solo(Normalspiel)}, Normalspiel, p(1, 1, 3, 1), 0, 0, "Spieler3 spielt ein Karo-Solo!"},
+        {"Karo-Solo", {{}, {}, solo(Normalspiel)}, Normalspiel, proSitz(1, 1, 3, 1), 0, 0, "Spieler3 spielt ein Karo-Solo!"},
     };
     for (const Fall& f : faelle) {
         Tisch t;

@@ -5,6 +5,7 @@
 #include "engine/Wertung.h"
 
 using namespace engine;
+using testhilfe::proSitz;
 
 namespace {
 
@@ -104,37 +105,32 @@ TEST(Wertung, PunkteNachFaktorSonderpunktenUndBock) {
         bool bockDanach;
         const char* textteil;
     };
-    auto p = [](int a, int b, int c, int d) {
-        ProSitz<int> x;
-        x[Sitz(1)] = a; x[Sitz(2)] = b; x[Sitz(3)] = c; x[Sitz(4)] = d;
-        return x;
-    };
     const Fall faelle[] = {
-        {"Re gewinnt einfach", 130, false, false, 0, 0, false, false, 1, p(1, 1, 0, 0), false,
+        {"Re gewinnt einfach", 130, false, false, 0, 0, false, false, 1, proSitz(1, 1, 0, 0), false,
          "Ihre Partei hat mit 130 Augen gewonnen!"},
-        {"Re und Kontra: mal vier", 130, true, true, 0, 0, false, false, 4, p(4, 4, 0, 0), false,
+        {"Re und Kontra: mal vier", 130, true, true, 0, 0, false, false, 4, proSitz(4, 4, 0, 0), false,
          ", Verdoppelung jeweils durch Kontra und Re = 4)"},
-        {"nur Kontra: mal zwei", 100, false, true, 0, 0, false, false, 2, p(0, 0, 2, 2), false,
+        {"nur Kontra: mal zwei", 100, false, true, 0, 0, false, false, 2, proSitz(0, 0, 2, 2), false,
          "Ihre Partei hat mit 100 Augen verloren!\nIhre Gegner erhalten:\n(Spielwert: Spiel einfach gewonnen, "
          "Verdoppelung durch Kontra = 2)"},
-        {"ein Sonderpunkt des Gewinners", 130, true, false, 1, 0, false, false, 3, p(3, 3, 0, 0), false,
+        {"ein Sonderpunkt des Gewinners", 130, true, false, 1, 0, false, false, 3, proSitz(3, 3, 0, 0), false,
          ", Verdoppelung durch Re = 2 + einen erzielten Sonderpunkt = 3)"},
-        {"zwei Sonderpunkte des Gewinners", 130, false, false, 2, 0, false, false, 3, p(3, 3, 0, 0), false,
+        {"zwei Sonderpunkte des Gewinners", 130, false, false, 2, 0, false, false, 3, proSitz(3, 3, 0, 0), false,
          " + 2 erzielte Sonderpunkte = 3)"},
-        {"kalter Schlag setzt Bock", 130, false, false, 0, 1, false, true, 0, p(0, 0, 0, 0), true,
+        {"kalter Schlag setzt Bock", 130, false, false, 0, 1, false, true, 0, proSitz(0, 0, 0, 0), true,
          "Abzüglich  des Sonderpunktes Ihrer Gegner hat Ihre Partei mit 0 Punkten remis gespielt (sogenannter kalter "
          "Schlag)! Die Punkte des nächsten Spiels werden daher verdoppelt!"},
-        {"kalter Schlag ohne Bockrunden", 130, false, false, 0, 1, false, false, 0, p(0, 0, 0, 0), false,
+        {"kalter Schlag ohne Bockrunden", 130, false, false, 0, 1, false, false, 0, proSitz(0, 0, 0, 0), false,
          "(sogenannter kalter Schlag)! "},
-        {"Umkehr: der Verlierer bekommt", 130, false, false, 0, 3, false, false, -2, p(0, 0, 2, 2), false,
+        {"Umkehr: der Verlierer bekommt", 130, false, false, 0, 3, false, false, -2, proSitz(0, 0, 2, 2), false,
          "Abzüglich  der 3 Sonderpunkte Ihrer Gegner hat Ihre Partei mit 2 Punkten verloren! "},
-        {"eigene Sonderpunkte abgezogen", 100, false, false, 2, 0, false, false, -1, p(1, 1, 0, 0), false,
+        {"eigene Sonderpunkte abgezogen", 100, false, false, 2, 0, false, false, -1, proSitz(1, 1, 0, 0), false,
          "Abzüglich der von Ihrer Partei erzielten 2 Sonderpunkte hat Ihre Partei mit 1 Punkt gewonnen! "},
-        {"Bockspiel verdoppelt", 190, false, false, 0, 0, true, true, 3, p(6, 6, 0, 0), false,
+        {"Bockspiel verdoppelt", 190, false, false, 0, 0, true, true, 3, proSitz(6, 6, 0, 0), false,
          "Diese Punkte werden verdoppelt, da das Spiel zuvor mit einem kalten Schlag endete!"},
-        {"Bockspiel mit einem Punkt", 130, false, false, 0, 0, true, true, 1, p(2, 2, 0, 0), false,
+        {"Bockspiel mit einem Punkt", 130, false, false, 0, 0, true, true, 1, proSitz(2, 2, 0, 0), false,
          "Der Punkt wird verdoppelt, da das Spiel zuvor mit einem kalten Schlag endete!"},
-        {"Bockmarke ohne Bockrunden zählt nicht", 130, false, false, 0, 0, true, false, 1, p(1, 1, 0, 0), false,
+        {"Bockmarke ohne Bockrunden zählt nicht", 130, false, false, 0, 0, true, false, 1, proSitz(1, 1, 0, 0), false,
          "(Spielwert: Spiel einfach gewonnen = 1)"},
     };
     for (const Fall& f : faelle) {
@@ -163,16 +159,11 @@ TEST(Wertung, SoloBuchungUndKopfzeilen) {
         ProSitz<int> punkte;
         const char* kopf;
     };
-    auto p = [](int a, int b, int c, int d) {
-        ProSitz<int> x;
-        x[Sitz(1)] = a; x[Sitz(2)] = b; x[Sitz(3)] = c; x[Sitz(4)] = d;
-        return x;
-    };
     const Fall faelle[] = {
-        {"Solist gewinnt alle Stiche: Punkte einmal", 1, 240, 12, p(5, 0, 0, 0), "Sie haben alle Stiche gewonnen!\n"},
-        {"Solist schwarz verloren: drei Gegner je", 1, 0, 0, p(0, 5, 5, 5),
+        {"Solist gewinnt alle Stiche: Punkte einmal", 1, 240, 12, proSitz(5, 0, 0, 0), "Sie haben alle Stiche gewonnen!\n"},
+        {"Solist schwarz verloren: drei Gegner je", 1, 0, 0, proSitz(0, 5, 5, 5),
          "Sie haben schwarz verloren!\nIhre Gegner erhalten:\n"},
-        {"Gegner des Solisten verliert", 4, 140, 7, p(0, 0, 0, 1),
+        {"Gegner des Solisten verliert", 4, 140, 7, proSitz(0, 0, 0, 1),
          "Ihre Partei hat mit 100 Augen verloren!\nIhr Gegner erhält:\n"},
     };
     for (const Fall& f : faelle) {

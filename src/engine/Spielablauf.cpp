@@ -59,6 +59,21 @@ void Spielablauf::fortsetzen() {
     }
 }
 
+void Spielablauf::geladenesSpielFortsetzen() {
+    Ablaufstand& a = spiel_.ablauf;
+    a = Ablaufstand{};
+    if (spiel_.sticheGespielt >= spiel_.deck.handgroesse()) {
+        if (!spiel_.ergebnis.gewertet) {
+            a.phase = Spielphase::StichVoll;
+            stichEinsammeln();
+        } else {
+            a.phase = Spielphase::Spielende;
+        }
+    } else {
+        a.phase = spiel_.stich.komplett() ? Spielphase::StichVoll : Spielphase::Kartenspiel;
+    }
+}
+
 Sitz Spielablauf::sitzDerAnfrage() const {
     const Ablaufstand& a = spiel_.ablauf;
     switch (a.phase) {
@@ -246,6 +261,7 @@ Bescheid Spielablauf::vorbehaltAnnehmen(const Vorbehalt& v) {
 
 void Spielablauf::spielBeginnen(const Spielwahl& wahl) {
     melden(spielFestlegen(spiel_, wahl, franzoesisch_));
+    spiel_.ablauf = Ablaufstand{};
     spiel_.ablauf.phase = Spielphase::Kartenspiel;
     for (Spielbeobachter* b : beobachter_) b->spielBegonnen(spiel_);
 }

@@ -105,8 +105,11 @@ public:
     void neuePartie();
     // Some seat has points or a trick has been played: ask before breaking it off.
     bool partieLaeuft() const;
-    // After the Spiel was set from outside (loaded game): carries on from its phase.
+    // After the Spiel was set from outside (received state): carries on from its phase.
     void fortsetzen();
+    // A saved game keeps no phase: it is taken from the cards played (trick under
+    // way, full trick on the table, or the game finished), then play carries on.
+    void geladenesSpielFortsetzen();
 
     Anfrage anfrage() const;
     Bescheid antworten(const Antwort& antwort);

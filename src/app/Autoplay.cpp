@@ -53,7 +53,7 @@ void bogenSchreiben(std::ostream& aus, const std::vector<Partiezeile>& zeilen, c
 int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& bogen) {
     engine::Spiel spiel;
     for (const Sitz s : engine::alleSitze) {
-        spiel.namen[s] = "Spieler" + std::to_string(s.nr());
+        spiel.namen[s] = auftrag.namen[static_cast<std::size_t>(s.nr() - 1)];
         spiel.steuerung[s] = engine::Steuerung::Computer;
     }
     engine::SeedZufall zufall(auftrag.seed);
@@ -91,12 +91,13 @@ int autoplayStarten(const Aufruf& aufruf) {
     }
     if (!aufruf.regelDatei.empty()) {
         std::string fehler;
-        const auto regeln = regelDateiLesen(aufruf.regelDatei, fehler);
-        if (!regeln) {
+        const auto optionen = optionenLesen(aufruf.regelDatei, fehler);
+        if (!optionen) {
             std::cerr << "trumpona: " << fehler << "\n";
             return 2;
         }
-        auftrag.regeln = *regeln;
+        auftrag.regeln = optionen->regeln;
+        auftrag.namen = optionen->namen;
     }
     if (aufruf.jsonDatei == "-") {
         std::ios::sync_with_stdio(false);

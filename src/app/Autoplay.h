@@ -1,7 +1,9 @@
 #pragma once
 // Headless play: four computer players play N games, Partie after Partie.
+#include <array>
 #include <cstdint>
 #include <ostream>
+#include <string>
 
 #include "Kommandozeile.h"
 #include "engine/Regeln.h"
@@ -12,6 +14,7 @@ struct Autoplayauftrag {
     int spiele = 0;
     std::uint64_t seed = 1;
     engine::RegelOptionen regeln;
+    std::array<std::string, 4> namen{"Spieler1", "Spieler2", "Spieler3", "Spieler4"};
 };
 
 // Plays the games; writes one JSON line per game to `json` (when given) and the

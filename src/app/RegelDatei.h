@@ -1,19 +1,13 @@
 #pragma once
-// Reads the rule options of an options file ("Optionen" section, -1/0 switches,
-// Windows-1252 or UTF-8, CRLF or LF). A small reader for --rules; the settings
-// store replaces it with the full one.
+// The options file named by --rules, read by the settings store's reader.
 #include <optional>
 #include <string>
-#include <string_view>
 
-#include "engine/Regeln.h"
+#include "settings/Einstellungen.h"
 
 namespace app {
 
-// Keys missing from the text keep their defaults; keys compare without case.
-engine::RegelOptionen regelnAusText(std::string_view text);
-
-// Empty with `fehler` set when the file cannot be read.
-std::optional<engine::RegelOptionen> regelDateiLesen(const std::string& pfad, std::string& fehler);
+// Empty with `fehler` set when the file cannot be read; missing keys keep their defaults.
+std::optional<settings::Einstellungen> optionenLesen(const std::string& pfad, std::string& fehler);
 
 }  // namespace app

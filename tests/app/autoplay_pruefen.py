@@ -8,6 +8,7 @@ SCHLUESSEL = {"partie", "spiel", "vorhand", "spieltyp", "solist", "hochzeit", "s
               "sonderpunkte", "punkte", "stand", "bock", "text"}
 
 erwartet = int(sys.argv[1])
+karten = int(sys.argv[2]) if len(sys.argv) > 2 else None  # cards in the game, when the rules fix it
 zeilen = sys.stdin.read().splitlines()
 assert len(zeilen) == erwartet, f"{len(zeilen)} Zeilen statt {erwartet}"
 stand = [0, 0, 0, 0]
@@ -19,6 +20,7 @@ for zeile in zeilen:
     if s["partie"] != partie:
         partie, stand = s["partie"], [0, 0, 0, 0]
     n = 40 if s["regeln"]["Scharfer_Rupa"] == -1 else 48
+    assert karten is None or n == karten, n
     assert len(s["karten"]) == 48 and all(c == 0 for c in s["karten"][n:]), s["karten"]
     assert len(s["stiche"]) == n // 4
     assert sum(t["augen"] for t in s["stiche"]) == 240

@@ -69,7 +69,8 @@ int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& b
     engine::Selbstspiel selbstspiel(ablauf, entscheider);
     const auto bilanz = selbstspiel.spielen(auftrag.spiele, [&](const engine::Spiel& s) {
         if (json) *json << spielAlsJson(s) << '\n';
-        if (zeilen.empty() || zeilen.back().partie != s.partie.partieNr) zeilen.push_back({s.partie.partieNr, 0, false, {}});
+        if (zeilen.empty() || zeilen.back().partie != s.partie.partieNr)
+            zeilen.push_back({s.partie.partieNr, 0, false, {}});
         zeilen.back().spiele = s.partie.spielNr;
         zeilen.back().beendet = s.ergebnis.partieEnde;
         zeilen.back().stand = s.partie.punkte;

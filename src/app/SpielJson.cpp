@@ -45,7 +45,8 @@ std::string jsonText(const std::string& text) {
             default:
                 if (static_cast<unsigned char>(c) < 0x20) {
                     char puffer[8];
-                    std::snprintf(puffer, sizeof puffer, "\\u%04x", static_cast<unsigned>(static_cast<unsigned char>(c)));
+                    std::snprintf(puffer, sizeof puffer, "\\u%04x",
+                                  static_cast<unsigned>(static_cast<unsigned char>(c)));
                     t += puffer;
                 } else {
                     t += c;

@@ -98,7 +98,8 @@ Meldung ansageMeldung(const Spiel& spiel, const AnsageEintrag& e) {
                                      : name + " sagt ein Limit von " + std::to_string(limitAugen(e.limitCode)) + " an.";
         return {Meldungsart::Ansage, std::string(TitelLimit), text, e.sitz, {}};
     }
-    if (e.partei == ParteiRe) return {Meldungsart::Ansage, std::string(TitelRe), name + std::string(RuftReAus), e.sitz, {}};
+    if (e.partei == ParteiRe)
+        return {Meldungsart::Ansage, std::string(TitelRe), name + std::string(RuftReAus), e.sitz, {}};
     return {Meldungsart::Ansage, std::string(TitelKontra), name + std::string(GibtKontra), e.sitz, {}};
 }
 
@@ -111,15 +112,20 @@ std::vector<Meldung> ansagenUmwandeln(Spiel& spiel) {
         if (spiel.reAngesagt[s] && seiteNr == ParteiKontra) {
             spiel.reAngesagt[s] = false;
             spiel.kontraAngesagt[s] = true;
-            meldungen.push_back({Meldungsart::Umwandlung, titel,
+            meldungen.push_back({Meldungsart::Umwandlung,
+                                 titel,
                                  "Das bereits von " + name + " " + "angesagte Re wird jetzt in ein Kontra umgewandelt!",
-                                 s, {}});
+                                 s,
+                                 {}});
         } else if (spiel.kontraAngesagt[s] && seiteNr == ParteiRe) {
             spiel.kontraAngesagt[s] = false;
             spiel.reAngesagt[s] = true;
             const std::string von = spiel.partei[s] == ParteiSolo ? "Das bereits vom Solospieler " : "Das bereits von ";
-            meldungen.push_back({Meldungsart::Umwandlung, titel,
-                                 von + name + " " + "angesagte Kontra wird jetzt in ein Re umgewandelt!", s, {}});
+            meldungen.push_back({Meldungsart::Umwandlung,
+                                 titel,
+                                 von + name + " " + "angesagte Kontra wird jetzt in ein Re umgewandelt!",
+                                 s,
+                                 {}});
         }
     }
     spiel.faktor = faktorAusAnsagen(spiel);
@@ -130,7 +136,8 @@ Ansagemenue ansagemenue(const Spiel& spiel, Sitz sitz) {
     Ansagemenue m;
     const bool re = seite(spiel, sitz) == ParteiRe;
     const bool angesagt = parteiHatAngesagt(spiel, re ? ParteiRe : ParteiKontra);
-    m.reKontra.text = std::string(re ? (angesagt ? ReAusgerufen : ReAusrufen) : (angesagt ? KontraGegeben : KontraGeben));
+    m.reKontra.text =
+        std::string(re ? (angesagt ? ReAusgerufen : ReAusrufen) : (angesagt ? KontraGegeben : KontraGeben));
     m.reKontra.aktiv = ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine;
     for (int code = LimitSchwarz; code <= Keine90; ++code) {
         Menuepunkt& p = m.limits[static_cast<std::size_t>(code)];

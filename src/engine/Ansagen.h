@@ -48,14 +48,14 @@ int faktorAusAnsagen(const Spiel& spiel);
 
 // Why an announcement cannot be made now.
 enum class Ansagesperre {
-    Keine,            // allowed
-    NichtJetzt,       // no game running, or no such limit
-    KeineAnsagen,     // rule "Kontra" is 0
-    KeineLimits,      // rule "Limit" is 0
+    Keine,         // allowed
+    NichtJetzt,    // no game running, or no such limit
+    KeineAnsagen,  // rule "Kontra" is 0
+    KeineLimits,   // rule "Limit" is 0
     FristVorbei,
-    SchonAngesagt,    // the seat's side has announced: the menu entry simply does nothing
-    VorErsterKarte,   // a limit before the first card
-    LimitSchon,       // a limit has been announced in this game
+    SchonAngesagt,   // the seat's side has announced: the menu entry simply does nothing
+    VorErsterKarte,  // a limit before the first card
+    LimitSchon,      // a limit has been announced in this game
 };
 Ansagesperre ansageSperre(const Spiel& spiel, Sitz sitz, const Ansage& ansage);
 // The refusal text; empty for Keine and SchonAngesagt.

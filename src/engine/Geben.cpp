@@ -38,10 +38,11 @@ std::string verteilungPruefen(const Kartenverteilung& karten, int kartenanzahl, 
     }
     for (int code = 1; code <= JokerCode; ++code) {
         int soll = 2;
-        if (code == JokerCode) soll = joker && kartenanzahl == 48 ? 1 : 0;
-        else if (rangVonCode(code) == Neun) soll = kartenanzahl == 40 ? 0 : (code == kartencode(Karo, Neun) && joker ? 1 : 2);
-        if (anzahl[static_cast<std::size_t>(code)] != soll)
-            return "Falsche Anzahl der Karte " + std::to_string(code);
+        if (code == JokerCode)
+            soll = joker && kartenanzahl == 48 ? 1 : 0;
+        else if (rangVonCode(code) == Neun)
+            soll = kartenanzahl == 40 ? 0 : (code == kartencode(Karo, Neun) && joker ? 1 : 2);
+        if (anzahl[static_cast<std::size_t>(code)] != soll) return "Falsche Anzahl der Karte " + std::to_string(code);
     }
     return {};
 }

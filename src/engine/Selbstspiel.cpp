@@ -25,15 +25,14 @@ Selbstspielbilanz Selbstspiel::spielen(int spiele, const std::function<void(cons
     while (bilanz.spiele < spiele) {
         const Anfrageart art = ablauf_.offeneArt();
         switch (art) {
-            case Anfrageart::Geben:
-                ablauf_.antworten(Antwort::zufallsGeben());
-                break;
+            case Anfrageart::Geben: ablauf_.antworten(Antwort::zufallsGeben()); break;
             case Anfrageart::Neugeben:
                 ablauf_.antworten(Antwort::neugeben(ablauf_.anfrage().neugeben.computerWuerde));
                 break;
             case Anfrageart::Vorbehalt: {
                 const Sitz s = ablauf_.sitzDerAnfrage();
-                const Bescheid b = ablauf_.antworten(Antwort::mitVorbehalt(entscheider_[s]->vorbehaltWaehlen(spiel, s)));
+                const Bescheid b =
+                    ablauf_.antworten(Antwort::mitVorbehalt(entscheider_[s]->vorbehaltWaehlen(spiel, s)));
                 ablehnung(bilanz, b);
                 if (!b) ablauf_.antworten(Antwort::mitVorbehalt(Vorbehalt{}));
                 break;
@@ -49,18 +48,14 @@ Selbstspielbilanz Selbstspiel::spielen(int spiele, const std::function<void(cons
                 if (!b) ablauf_.antworten(Antwort::karte(ersteErlaubteKarte(spiel, s)));
                 break;
             }
-            case Anfrageart::StichEinsammeln:
-                ablauf_.antworten(Antwort::weiter(art));
-                break;
+            case Anfrageart::StichEinsammeln: ablauf_.antworten(Antwort::weiter(art)); break;
             case Anfrageart::NaechstesSpiel:
                 ++bilanz.spiele;
                 if (nachSpiel) nachSpiel(spiel);
                 // The last game stays on the table for whoever looks at it.
                 if (bilanz.spiele < spiele) ablauf_.antworten(Antwort::weiter(art));
                 break;
-            case Anfrageart::NeuePartie:
-                ablauf_.antworten(Antwort::weiter(art));
-                break;
+            case Anfrageart::NeuePartie: ablauf_.antworten(Antwort::weiter(art)); break;
         }
     }
     return bilanz;

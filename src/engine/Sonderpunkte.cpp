@@ -40,8 +40,11 @@ std::vector<Sonderpunkt> sonderpunkteDesStichs(const Spiel& spiel, int nr, std::
         for (int i = 0; i < anzahl; ++i) punkte.push_back({std::string(art), wSeite, nr});
         if (meldungen) {
             const std::string_view fuer = anzahl == 2 ? ZweiSonderpunkteFuer : SonderpunktFuer;
-            meldungen->push_back({Meldungsart::Sonderpunkt, std::string(TitelSonderpunkt),
-                                  std::string(text) + "\n" + std::string(fuer) + empfaenger(spiel, w), w, {}});
+            meldungen->push_back({Meldungsart::Sonderpunkt,
+                                  std::string(TitelSonderpunkt),
+                                  std::string(text) + "\n" + std::string(fuer) + empfaenger(spiel, w),
+                                  w,
+                                  {}});
         }
     };
 
@@ -69,8 +72,8 @@ std::vector<Sonderpunkt> sonderpunkteDesStichs(const Spiel& spiel, int nr, std::
     const bool schweinGewinnt = gewinnKarte.code == KaroAs && gewinnKarte.staerke == StaerkeJoker;
     if (schweinGewinnt && dollen > 0) {
         if (meldungen)
-            meldungen->push_back({Meldungsart::Sonderpunkt, std::string(TitelSonderpunkt),
-                                  std::string(SchweinSchlugDolle), w, {}});
+            meldungen->push_back(
+                {Meldungsart::Sonderpunkt, std::string(TitelSonderpunkt), std::string(SchweinSchlugDolle), w, {}});
         return punkte;
     }
 
@@ -82,8 +85,10 @@ std::vector<Sonderpunkt> sonderpunkteDesStichs(const Spiel& spiel, int nr, std::
 
     const Regeln& r = spiel.regeln;
     if (r.sopuDollenschlag && fremdeDollen > 0) {
-        if (gewinnKarte.code == Dolle) finde(sonderpunktart::Dullenschlag, GeschlageneDolle);
-        else finde(sonderpunktart::DolleGefangen, GefangeneDolle, fremdeDollen);
+        if (gewinnKarte.code == Dolle)
+            finde(sonderpunktart::Dullenschlag, GeschlageneDolle);
+        else
+            finde(sonderpunktart::DolleGefangen, GefangeneDolle, fremdeDollen);
     }
     if (r.sopuHerzstich && herzFehl == 4) finde(sonderpunktart::Herzstich, Herzstich);
 

@@ -108,7 +108,8 @@ Anfrage Spielablauf::anfrage() const {
     } else if (phase == Spielphase::Vorbehalte) {
         a.vorbehalt.soloarten = erlaubteSoloarten(spiel_.regeln);
         // The question is for a person; computer seats decide without it.
-        if (!a.vorbehalt.soloarten.empty() && a.steuerung != Steuerung::Computer) a.vorbehalt.soloFrage = soloFrage(spiel_, s);
+        if (!a.vorbehalt.soloarten.empty() && a.steuerung != Steuerung::Computer)
+            a.vorbehalt.soloFrage = soloFrage(spiel_, s);
         a.vorbehalt.hochzeitMoeglich = hatBeideKreuzDamen(spiel_, s);
         a.vorbehalt.pflichtsolo = mussPflichtsolo(spiel_, s);
         if (!mensch) a.status = std::string(vorbehalttext::WarteAufVorbehalte);
@@ -150,8 +151,10 @@ Bescheid Spielablauf::antworten(const Antwort& antwort) {
         case Anfrageart::Karte: return karteAnnehmen(antwort.position);
         case Anfrageart::StichEinsammeln: stichEinsammeln(); return {};
         case Anfrageart::NaechstesSpiel:
-            if (spiel_.ergebnis.partieEnde) spiel_.ablauf.phase = Spielphase::Partieende;
-            else spielVorbereiten();
+            if (spiel_.ergebnis.partieEnde)
+                spiel_.ablauf.phase = Spielphase::Partieende;
+            else
+                spielVorbereiten();
             return {};
         case Anfrageart::NeuePartie: neuePartie(); return {};
     }
@@ -326,7 +329,8 @@ void Spielablauf::stichEinsammeln() {
     }
     spielWerten(spiel_);
     spiel_.ablauf.phase = Spielphase::Spielende;
-    melden(Meldung{Meldungsart::Spielende, std::string(ablauftext::SpielBeendet), spiel_.ergebnis.text, std::nullopt, {}});
+    melden(
+        Meldung{Meldungsart::Spielende, std::string(ablauftext::SpielBeendet), spiel_.ergebnis.text, std::nullopt, {}});
     for (Spielbeobachter* b : beobachter_) b->spielBeendet(spiel_);
 }
 

@@ -44,24 +44,24 @@ enum class Anfrageart {
 };
 
 struct Neugebeanfrage {
-    int grund = 0;            // Neugebegrund
+    int grund = 0;  // Neugebegrund
     int anzahl = 0;
-    std::string frage;        // the question box text
+    std::string frage;            // the question box text
     bool computerWuerde = false;  // what the computer rule would answer (automatic play)
 };
 
 struct Vorbehaltanfrage {
-    std::string soloFrage;        // the question before the solo dialog (for a person; empty when no solo is allowed)
-    std::vector<int> soloarten;   // game types the solo dialog offers
+    std::string soloFrage;          // the question before the solo dialog (for a person; empty when no solo is allowed)
+    std::vector<int> soloarten;     // game types the solo dialog offers
     bool hochzeitMoeglich = false;  // the seat holds both Kreuz-Damen
-    bool pflichtsolo = false;     // the seat must declare a solo now
+    bool pflichtsolo = false;       // the seat must declare a solo now
 };
 
 struct Anfrage {
     Anfrageart art = Anfrageart::Geben;
     std::optional<Sitz> sitz;
     Steuerung steuerung = Steuerung::Computer;  // who answers (with automatic play, the computer for seat 1's cards)
-    std::string status;                          // the status line
+    std::string status;                         // the status line
     Neugebeanfrage neugeben;
     Vorbehaltanfrage vorbehalt;
 };
@@ -74,12 +74,35 @@ struct Antwort {
     std::optional<Kartenverteilung> karten;
 
     static Antwort zufallsGeben() { return {}; }
-    static Antwort geben(const Kartenverteilung& k) { Antwort a; a.karten = k; return a; }
-    static Antwort neugeben(bool ja) { Antwort a; a.art = Anfrageart::Neugeben; a.ja = ja; return a; }
-    static Antwort mitVorbehalt(const Vorbehalt& v) { Antwort a; a.art = Anfrageart::Vorbehalt; a.vorbehalt = v; return a; }
-    static Antwort karte(int pos) { Antwort a; a.art = Anfrageart::Karte; a.position = pos; return a; }
+    static Antwort geben(const Kartenverteilung& k) {
+        Antwort a;
+        a.karten = k;
+        return a;
+    }
+    static Antwort neugeben(bool ja) {
+        Antwort a;
+        a.art = Anfrageart::Neugeben;
+        a.ja = ja;
+        return a;
+    }
+    static Antwort mitVorbehalt(const Vorbehalt& v) {
+        Antwort a;
+        a.art = Anfrageart::Vorbehalt;
+        a.vorbehalt = v;
+        return a;
+    }
+    static Antwort karte(int pos) {
+        Antwort a;
+        a.art = Anfrageart::Karte;
+        a.position = pos;
+        return a;
+    }
     // Collects the trick, starts the next game or the next Partie.
-    static Antwort weiter(Anfrageart art) { Antwort a; a.art = art; return a; }
+    static Antwort weiter(Anfrageart art) {
+        Antwort a;
+        a.art = art;
+        return a;
+    }
 };
 
 // Whether an answer or announcement was taken; if not, the text to show.

@@ -146,19 +146,23 @@ std::vector<Meldung> spielFestlegen(Spiel& spiel, const Spielwahl& wahl, bool fr
                 spiel.pflichtsolo = true;
                 spiel.partie.pflichtsoloGespielt[w] = true;
             }
-            meldungen.push_back({Meldungsart::Solo, std::string(TitelSolo),
-                                 wer(spiel, w, "Sie spielen", " spielt") + " ein " +
-                                     soloName(spiel.spieltyp, franzoesisch) + "!",
-                                 w, {}});
+            meldungen.push_back(
+                {Meldungsart::Solo,
+                 std::string(TitelSolo),
+                 wer(spiel, w, "Sie spielen", " spielt") + " ein " + soloName(spiel.spieltyp, franzoesisch) + "!",
+                 w,
+                 {}});
             break;
         case Spielwahl::Hochzeit:
             spiel.hochzeiter = w;
             spiel.hochzeitArt = wahl.hochzeitArt;
             spiel.partei[w] = ParteiRe;
-            meldungen.push_back({Meldungsart::Hochzeit, std::string(TitelHochzeit),
+            meldungen.push_back({Meldungsart::Hochzeit,
+                                 std::string(TitelHochzeit),
                                  wer(spiel, w, SieHeiraten, HeiratetDenGewinner) + " des " +
                                      std::string(hochzeitArtText(wahl.hochzeitArt)) + "! ",
-                                 w, {}});
+                                 w,
+                                 {}});
             break;
         case Spielwahl::StillesSolo:
             spiel.stillerSolist = w;
@@ -212,9 +216,11 @@ std::optional<Meldung> hochzeitKlaeren(Spiel& spiel) {
         spiel.hochzeitPartner = st.gewinner;
         spiel.partei[st.gewinner] = ParteiRe;
         spiel.hochzeitGeklaert = true;
-        return Meldung{Meldungsart::Hochzeit, titel,
+        return Meldung{Meldungsart::Hochzeit,
+                       titel,
                        wer(spiel, st.gewinner, "Sie sind der Partner der Hochzeit!", " ist der Partner der Hochzeit!"),
-                       st.gewinner, {}};
+                       st.gewinner,
+                       {}};
     }
     if (spiel.sticheGespielt >= 3) {
         spiel.partei[h] = ParteiSolo;

@@ -63,7 +63,7 @@ std::optional<Meldung> schweineMarkieren(Spiel& spiel);
 // What the reservations fixed.
 struct Spielwahl {
     enum Art { Normal, Solo, Hochzeit, StillesSolo } art = Normal;
-    Sitz sitz{1};                 // soloist, Hochzeiter or silent soloist
+    Sitz sitz{1};  // soloist, Hochzeiter or silent soloist
     int spieltyp = Normalspiel;
     int hochzeitArt = KeineHochzeit;
 };

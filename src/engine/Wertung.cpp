@@ -22,9 +22,11 @@ std::string wertText(int erreicht, int angesagt, bool eingehalten) {
     std::string t(EinfachGewonnen);
     for (int i = 0; i < erreicht; ++i) {
         t += stufen[static_cast<std::size_t>(i)];
-        if (eingehalten && i + 1 == angesagt) t += std::string(stufen[static_cast<std::size_t>(i)]) + std::string(Angesagt);
+        if (eingehalten && i + 1 == angesagt)
+            t += std::string(stufen[static_cast<std::size_t>(i)]) + std::string(Angesagt);
     }
-    if (angesagt > 0 && !eingehalten) t += std::string(stufen[static_cast<std::size_t>(angesagt - 1)]) + std::string(Angesagt);
+    if (angesagt > 0 && !eingehalten)
+        t += std::string(stufen[static_cast<std::size_t>(angesagt - 1)]) + std::string(Angesagt);
     return t;
 }
 
@@ -98,14 +100,19 @@ void spielWerten(Spiel& spiel) {
     const bool menschGewinnt = e.gewinner == menschSeite;
     std::string kopf(spiel.partei[Mensch] == ParteiSolo ? SieHaben : IhreParteiHat);
     const int menschStiche = stiche[static_cast<std::size_t>(menschSeite)];
-    if (menschGewinnt && menschStiche == alleStiche) kopf += AlleStiche;
-    else if (!menschGewinnt && menschStiche == 0) kopf += SchwarzVerloren;
-    else kopf += " mit " + std::to_string(augen[static_cast<std::size_t>(menschSeite)]) +
-                 std::string(menschGewinnt ? AugenGewonnen : AugenVerloren);
+    if (menschGewinnt && menschStiche == alleStiche)
+        kopf += AlleStiche;
+    else if (!menschGewinnt && menschStiche == 0)
+        kopf += SchwarzVerloren;
+    else
+        kopf += " mit " + std::to_string(augen[static_cast<std::size_t>(menschSeite)]) +
+                std::string(menschGewinnt ? AugenGewonnen : AugenVerloren);
     zeilen.insert(zeilen.begin(), kopf);
     if (limitSeite) {
-        if (limitSeite == menschSeite) zeilen.emplace_back(eingehalten ? LimitEingehalten : LimitNichtEingehalten);
-        else zeilen.emplace_back(eingehalten ? GegnerLimitEingehalten : GegnerLimitNichtEingehalten);
+        if (limitSeite == menschSeite)
+            zeilen.emplace_back(eingehalten ? LimitEingehalten : LimitNichtEingehalten);
+        else
+            zeilen.emplace_back(eingehalten ? GegnerLimitEingehalten : GegnerLimitNichtEingehalten);
     }
 
     // 1. Bock game.
@@ -116,22 +123,27 @@ void spielWerten(Spiel& spiel) {
     e.faktor = spiel.faktor;
     int wert = e.spielwert * e.faktor;
     std::string wertZeile = std::string(Spielwert) + wertText(erreicht, angesagt, eingehalten);
-    if (e.faktor >= 4) wertZeile += std::string(VerdoppelungBeide) + std::to_string(wert);
+    if (e.faktor >= 4)
+        wertZeile += std::string(VerdoppelungBeide) + std::to_string(wert);
     else if (e.faktor == 2)
         wertZeile += std::string(parteiHatAngesagt(spiel, ParteiKontra) ? VerdoppelungKontra : VerdoppelungRe) +
                      std::to_string(wert);
-    else wertZeile += " = " + std::to_string(wert);
+    else
+        wertZeile += " = " + std::to_string(wert);
 
     // 3. and 4. Special points of winner and loser.
     for (const Sonderpunkt& sp : spiel.sonderpunkte) {
-        if (sp.partei == e.gewinner) ++e.sonderpunkteGewinner;
-        else ++e.sonderpunkteVerlierer;
+        if (sp.partei == e.gewinner)
+            ++e.sonderpunkteGewinner;
+        else
+            ++e.sonderpunkteVerlierer;
     }
     wert += e.sonderpunkteGewinner;
-    if (e.sonderpunkteGewinner == 1) wertZeile += std::string(EinSonderpunkt) + std::to_string(wert);
+    if (e.sonderpunkteGewinner == 1)
+        wertZeile += std::string(EinSonderpunkt) + std::to_string(wert);
     else if (e.sonderpunkteGewinner > 1)
-        wertZeile += " + " + std::to_string(e.sonderpunkteGewinner) + std::string(ErzielteSonderpunkte) +
-                     std::to_string(wert);
+        wertZeile +=
+            " + " + std::to_string(e.sonderpunkteGewinner) + std::string(ErzielteSonderpunkte) + std::to_string(wert);
     const std::size_t wertZeileNr = zeilen.size();
     zeilen.push_back(wertZeile + ")");
     wert -= e.sonderpunkteVerlierer;
@@ -151,10 +163,14 @@ void spielWerten(Spiel& spiel) {
         if (verlierer == menschSeite)
             absatz += n == 1 ? std::string(EigenerSonderpunkt)
                              : std::string(EigeneSonderpunkte) + std::to_string(n) + " Sonderpunkte ";
-        else absatz += n == 1 ? std::string(GegnerSonderpunkt) : " der " + std::to_string(n) + " Sonderpunkte Ihrer Gegner ";
+        else
+            absatz +=
+                n == 1 ? std::string(GegnerSonderpunkt) : " der " + std::to_string(n) + " Sonderpunkte Ihrer Gegner ";
         absatz += std::string(HatIhrePartei) + punkteWort(betrag) + " ";
-        if (e.kalterSchlag) absatz += KalterSchlag;
-        else absatz += e.buchungsPartei == menschSeite ? Gewonnen : Verloren;
+        if (e.kalterSchlag)
+            absatz += KalterSchlag;
+        else
+            absatz += e.buchungsPartei == menschSeite ? Gewonnen : Verloren;
     }
     if (!e.kalterSchlag && e.buchungsPartei != menschSeite)
         zeilen.emplace(zeilen.begin() + static_cast<std::ptrdiff_t>(wertZeileNr),
@@ -175,7 +191,8 @@ void spielWerten(Spiel& spiel) {
     }
     // The table of games holds 96; from game 97 on the points rule decides the end.
     const int abrechnung = partie.spielNr > 96 ? 1 : spiel.regeln.abrOption;
-    if (abrechnung == 2 && partie.spielNr >= 1) partie.spieltabelle[static_cast<std::size_t>(partie.spielNr - 1)] = e.punkte;
+    if (abrechnung == 2 && partie.spielNr >= 1)
+        partie.spieltabelle[static_cast<std::size_t>(partie.spielNr - 1)] = e.punkte;
     if (abrechnung == 1) {
         for (const Sitz s : alleSitze) e.partieEnde = e.partieEnde || partie.punkte[s] >= spiel.regeln.endeBei;
     } else {

@@ -47,8 +47,10 @@ TEST(Ansagen, WannErlaubt) {
          "Stufenlimits können erst nach der 1. Karte angesagt werden!"},
         {"Limit nach der ersten Karte", 5, 5, 0, 1, limit(Keine90), false, false, nullptr},
         {"Schwarz im dritten Stich mit Frist 3", 5, 3, 2, 0, limit(LimitSchwarz), false, false, nullptr},
-        {"Limit nach der Frist", 5, 3, 3, 0, limit(Keine60), false, false, "Die Frist für diese Ansage ist abgelaufen."},
-        {"Limit unzulässig", 5, 0, 1, 0, limit(Keine30), false, false, "Limitgebote sind nach den Regeln nicht zulässig."},
+        {"Limit nach der Frist", 5, 3, 3, 0, limit(Keine60), false, false,
+         "Die Frist für diese Ansage ist abgelaufen."},
+        {"Limit unzulässig", 5, 0, 1, 0, limit(Keine30), false, false,
+         "Limitgebote sind nach den Regeln nicht zulässig."},
         {"nur ein Limit je Spiel", 5, 5, 1, 0, limit(Keine30), false, true,
          "In diesem Spiel wurde bereits ein Limit angesagt."},
     };

@@ -15,7 +15,11 @@ double zug(int r) { return (r - 1 + 0.5) / 48.0; }
 }  // namespace
 
 TEST(Geben, JedeVerteilungIstEinVollesDeck) {
-    struct Fall { int kartenanzahl; bool joker; int joker_soll; };
+    struct Fall {
+        int kartenanzahl;
+        bool joker;
+        int joker_soll;
+    };
     for (const Fall f : {Fall{48, false, 0}, Fall{48, true, 1}, Fall{40, false, 0}, Fall{40, true, 0}}) {
         for (std::uint64_t seed = 1; seed <= 50; ++seed) {
             SeedZufall zufall(seed);
@@ -48,7 +52,10 @@ TEST(Geben, ZiehenMitZurueckweisung) {
         {"schon gezogen: neu ziehen", 48, false, {zug(5), zug(5), zug(6), zug(6), zug(7)}, {5, 6, 7}},
         {"25 ohne Joker ist die Karo-Neun", 48, false, {zug(25), zug(1), zug(2)}, {1, 1, 2}},
         {"25 mit Joker bleibt der Joker", 48, true, {zug(25), zug(1), zug(2)}, {25, 1, 2}},
-        {"ohne Neunen: Neunen neu ziehen", 40, false, {zug(1), zug(7), zug(43), zug(2), zug(25), zug(26), zug(3)},
+        {"ohne Neunen: Neunen neu ziehen",
+         40,
+         false,
+         {zug(1), zug(7), zug(43), zug(2), zug(25), zug(26), zug(3)},
          {2, 2, 3}},
     };
     for (const Fall& f : faelle) {
@@ -113,8 +120,8 @@ TEST(Geben, GeberZaehler) {
 TEST(Geben, VorhandDesNaechstenSpiels) {
     struct Fall {
         const char* name;
-        int regel;               // rule "Vorhand"
-        int letzte;              // 0: first game
+        int regel;   // rule "Vorhand"
+        int letzte;  // 0: first game
         int gemerkt;
         bool marke;
         bool hhNSolo;

@@ -53,8 +53,10 @@ TEST(Spielablauf, AnfragenUndStatuszeilenEinesSpiels) {
     ASSERT_TRUE(t.ablauf.antworten(Antwort::weiter(Anfrageart::StichEinsammeln)));
     EXPECT_EQ(t.anfrage().sitz, t.spiel.stiche[0].gewinner) << "the winner leads";
     while (t.anfrage().art != Anfrageart::NaechstesSpiel) {
-        if (t.anfrage().art == Anfrageart::Karte) t.karteSpielen();
-        else ASSERT_TRUE(t.ablauf.antworten(Antwort::weiter(t.anfrage().art)));
+        if (t.anfrage().art == Anfrageart::Karte)
+            t.karteSpielen();
+        else
+            ASSERT_TRUE(t.ablauf.antworten(Antwort::weiter(t.anfrage().art)));
     }
     EXPECT_EQ(t.anfrage().status, "Spiel beendet");
     EXPECT_TRUE(t.spiel.ergebnis.gewertet);
@@ -104,10 +106,14 @@ TEST(Spielablauf, KopiertesSpielLaeuftWieDasOriginal) {
     ASSERT_TRUE(t.ablauf.antworten(Antwort::zufallsGeben()));
     while (t.spiel.sticheGespielt < 4 || t.spiel.stich.anzahl != 2) {
         const Anfrage a = t.anfrage();
-        if (a.art == Anfrageart::Karte) ASSERT_TRUE(t.ablauf.antworten(Antwort::karte(erste.karteWaehlen(t.spiel, *a.sitz))));
-        else if (a.art == Anfrageart::Vorbehalt) ASSERT_TRUE(t.ablauf.antworten(Antwort::mitVorbehalt({})));
-        else if (a.art == Anfrageart::Neugeben) ASSERT_TRUE(t.ablauf.antworten(Antwort::neugeben(false)));
-        else ASSERT_TRUE(t.ablauf.antworten(Antwort::weiter(a.art)));
+        if (a.art == Anfrageart::Karte)
+            ASSERT_TRUE(t.ablauf.antworten(Antwort::karte(erste.karteWaehlen(t.spiel, *a.sitz))));
+        else if (a.art == Anfrageart::Vorbehalt)
+            ASSERT_TRUE(t.ablauf.antworten(Antwort::mitVorbehalt({})));
+        else if (a.art == Anfrageart::Neugeben)
+            ASSERT_TRUE(t.ablauf.antworten(Antwort::neugeben(false)));
+        else
+            ASSERT_TRUE(t.ablauf.antworten(Antwort::weiter(a.art)));
     }
     Spiel geladen = t.spiel;
     geladen.ablauf = Ablaufstand{};  // a saved game keeps no phase
@@ -123,7 +129,12 @@ TEST(Spielablauf, KopiertesSpielLaeuftWieDasOriginal) {
 }
 
 TEST(Spielablauf, GeladenesSpielFindetSeinePhase) {
-    struct Fall { const char* name; int stiche, karten; bool gewertet; Anfrageart soll; };
+    struct Fall {
+        const char* name;
+        int stiche, karten;
+        bool gewertet;
+        Anfrageart soll;
+    };
     const Fall faelle[] = {
         {"mitten im Stich", 3, 2, false, Anfrageart::Karte},
         {"voller Stich liegt", 5, 4, false, Anfrageart::StichEinsammeln},
@@ -140,9 +151,12 @@ TEST(Spielablauf, GeladenesSpielFindetSeinePhase) {
         };
         while (!erreicht()) {
             const Anfrage a = t.anfrage();
-            if (a.art == Anfrageart::Karte) ASSERT_TRUE(t.ablauf.antworten(Antwort::karte(erste.karteWaehlen(t.spiel, *a.sitz))));
-            else if (a.art == Anfrageart::Vorbehalt) ASSERT_TRUE(t.ablauf.antworten(Antwort::mitVorbehalt({})));
-            else ASSERT_TRUE(t.ablauf.antworten(Antwort::weiter(a.art)));
+            if (a.art == Anfrageart::Karte)
+                ASSERT_TRUE(t.ablauf.antworten(Antwort::karte(erste.karteWaehlen(t.spiel, *a.sitz))));
+            else if (a.art == Anfrageart::Vorbehalt)
+                ASSERT_TRUE(t.ablauf.antworten(Antwort::mitVorbehalt({})));
+            else
+                ASSERT_TRUE(t.ablauf.antworten(Antwort::weiter(a.art)));
         }
         const ProSitz<int> stand = t.spiel.partie.punkte;
         Spiel geladen = t.spiel;

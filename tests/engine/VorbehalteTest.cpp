@@ -5,8 +5,8 @@
 #include "engine/Vorbehalte.h"
 
 using namespace engine;
-using testhilfe::proSitz;
 using testhilfe::positionVon;
+using testhilfe::proSitz;
 using testhilfe::Tisch;
 using testhilfe::verteilung;
 
@@ -24,10 +24,15 @@ RegelOptionen mitVorhand(int v) {
 }  // namespace
 
 TEST(Vorbehalte, SoloFrageDesMenschen) {
-    struct Fall { int vorhand; bool vhSolo; const char* text; };
+    struct Fall {
+        int vorhand;
+        bool vhSolo;
+        const char* text;
+    };
     const Fall faelle[] = {
         {1, true, "Sie haben Vorhand.\nErwägen Sie ein Solospiel anzusagen?"},
-        {4, false, "Sie sitzen in Zweithand.\nSpieler4 hat kein Solospiel angesagt!\nErwägen Sie ein Solospiel anzusagen?"},
+        {4, false,
+         "Sie sitzen in Zweithand.\nSpieler4 hat kein Solospiel angesagt!\nErwägen Sie ein Solospiel anzusagen?"},
         {4, true,
          "Sie sitzen in Zweithand.\nAls Solospieler würden Sie Vorhand erhalten.\nSpieler4 hat kein Solospiel "
          "angesagt!\nErwägen Sie ein Solospiel anzusagen?"},
@@ -85,11 +90,27 @@ TEST(Vorbehalte, WasDieRundeErgibt) {
     };
     const Fall faelle[] = {
         {"stilles Solo", {{}, {}, {}, {}}, Normalspiel, proSitz(3, 1, 1, 1), 0, 1, ""},
-        {"Hochzeit", {hochzeit(ErsterStich), {}, {}, {}}, Normalspiel, proSitz(2, 1, 1, 1), 1, 0,
+        {"Hochzeit",
+         {hochzeit(ErsterStich), {}, {}, {}},
+         Normalspiel,
+         proSitz(2, 1, 1, 1),
+         1,
+         0,
          "Sie heiraten den Gewinner  des ersten Stichs! "},
-        {"Solo geht vor Hochzeit", {hochzeit(ErsterFehlstich), solo(PikSolo)}, PikSolo, proSitz(1, 3, 1, 1), 0, 0,
+        {"Solo geht vor Hochzeit",
+         {hochzeit(ErsterFehlstich), solo(PikSolo)},
+         PikSolo,
+         proSitz(1, 3, 1, 1),
+         0,
+         0,
          "Spieler2 spielt ein Pik-Solo!"},
-        {"Karo-Solo", {{}, {}, solo(Normalspiel)}, Normalspiel, proSitz(1, 1, 3, 1), 0, 0, "Spieler3 spielt ein Karo-Solo!"},
+        {"Karo-Solo",
+         {{}, {}, solo(Normalspiel)},
+         Normalspiel,
+         proSitz(1, 1, 3, 1),
+         0,
+         0,
+         "Spieler3 spielt ein Karo-Solo!"},
     };
     for (const Fall& f : faelle) {
         Tisch t;
@@ -127,7 +148,10 @@ TEST(Vorbehalte, UnzulaessigeAntwortenWerdenAbgelehnt) {
 }
 
 namespace {
-struct Hochzeitsstich { bool trumpfGefuehrt; int gewinner; };
+struct Hochzeitsstich {
+    bool trumpfGefuehrt;
+    int gewinner;
+};
 
 // Plays out the Hochzeit of seat 1 over the given tricks; returns the partner, 0
 // for none yet, -1 when seat 1 plays alone.
@@ -155,7 +179,12 @@ int hochzeitspartner(int art, const std::vector<Hochzeitsstich>& stiche) {
 }  // namespace
 
 TEST(Vorbehalte, Hochzeitspartner) {
-    struct Fall { const char* name; int art; std::vector<Hochzeitsstich> stiche; int partner; };
+    struct Fall {
+        const char* name;
+        int art;
+        std::vector<Hochzeitsstich> stiche;
+        int partner;
+    };
     const Fall faelle[] = {
         {"erster Stich an Sitz 3", ErsterStich, {{true, 3}}, 3},
         {"erster Stich an den Hochzeiter, zweiter an Sitz 2", ErsterStich, {{true, 1}, {false, 2}}, 2},
@@ -206,7 +235,13 @@ TEST(Vorbehalte, Pflichtsolo) {
 // With "Vh_Solo" the soloist leads; the person's solo moves the game's Vorhand on,
 // a computer's does not, and so the next Vorhand differs with "Hh_n_Solo".
 TEST(Vorbehalte, SolospielerHatVorhand) {
-    struct Fall { const char* name; int solist; bool hhNSolo; int vorhandImSolo; int naechste; };
+    struct Fall {
+        const char* name;
+        int solist;
+        bool hhNSolo;
+        int vorhandImSolo;
+        int naechste;
+    };
     const Fall faelle[] = {
         {"Mensch, danach gemerkter Sitz", 1, false, 4, 4},
         {"Mensch, Hinterhand nach Solo", 1, true, 4, 1},

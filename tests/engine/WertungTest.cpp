@@ -43,7 +43,7 @@ TEST(Wertung, GewinnerUndSpielwert) {
         int augenRe, sticheRe;
         int limitSitz, limitCode;  // 0: no limit
         int gewinner, spielwert;
-        const char* wert;          // the value line of the end box
+        const char* wert;  // the value line of the end box
     };
     const Fall faelle[] = {
         {"Re mit 121", 121, 6, 0, 0, ParteiRe, 1, "(Spielwert: Spiel einfach gewonnen = 1)"},
@@ -97,10 +97,10 @@ TEST(Wertung, PunkteNachFaktorSonderpunktenUndBock) {
     struct Fall {
         const char* name;
         int augenRe;
-        bool re, kontra;            // announced
-        int spRe, spKontra;         // special points
+        bool re, kontra;     // announced
+        int spRe, spKontra;  // special points
         bool bockSpiel, bockrunden;
-        int ergebnis;               // before the Bock doubling
+        int ergebnis;  // before the Bock doubling
         ProSitz<int> punkte;
         bool bockDanach;
         const char* textteil;
@@ -160,7 +160,8 @@ TEST(Wertung, SoloBuchungUndKopfzeilen) {
         const char* kopf;
     };
     const Fall faelle[] = {
-        {"Solist gewinnt alle Stiche: Punkte einmal", 1, 240, 12, proSitz(5, 0, 0, 0), "Sie haben alle Stiche gewonnen!\n"},
+        {"Solist gewinnt alle Stiche: Punkte einmal", 1, 240, 12, proSitz(5, 0, 0, 0),
+         "Sie haben alle Stiche gewonnen!\n"},
         {"Solist schwarz verloren: drei Gegner je", 1, 0, 0, proSitz(0, 5, 5, 5),
          "Sie haben schwarz verloren!\nIhre Gegner erhalten:\n"},
         {"Gegner des Solisten verliert", 4, 140, 7, proSitz(0, 0, 0, 1),
@@ -220,7 +221,8 @@ TEST(Wertung, PartieendeUndTabelle) {
         spielWerten(s);
         EXPECT_EQ(s.ergebnis.partieEnde, f.ende) << f.name;
         EXPECT_EQ(s.regeln.abrOption, f.abrOption) << f.name;
-        const bool eingetragen = f.spielNr <= 96 && s.partie.spieltabelle[static_cast<std::size_t>(f.spielNr - 1)][Sitz(1)] == 1;
+        const bool eingetragen =
+            f.spielNr <= 96 && s.partie.spieltabelle[static_cast<std::size_t>(f.spielNr - 1)][Sitz(1)] == 1;
         EXPECT_EQ(eingetragen, f.inTabelle) << f.name;
     }
     EXPECT_EQ(partieendeText(30), "Partieende bei Überschreiten von 30 Punkten");
@@ -228,7 +230,12 @@ TEST(Wertung, PartieendeUndTabelle) {
 }
 
 TEST(Wertung, Limitzeilen) {
-    struct Fall { const char* name; int limitSitz; int augenRe; const char* zeile; };
+    struct Fall {
+        const char* name;
+        int limitSitz;
+        int augenRe;
+        const char* zeile;
+    };
     const Fall faelle[] = {
         {"eigenes gehalten", 2, 151, "Ihr Limitgebot haben Sie eingehalten!"},
         {"eigenes verfehlt", 2, 140, "Ihr Limitgebot haben Sie nicht eingehalten!"},
@@ -239,7 +246,7 @@ TEST(Wertung, Limitzeilen) {
         Spiel s = fertig(f.augenRe, 6);
         limitVon(s, f.limitSitz, Keine90);
         spielWerten(s);
-        EXPECT_NE(s.ergebnis.text.find(std::string("\n") + f.zeile + "\n"), std::string::npos)
-            << f.name << "\n" << s.ergebnis.text;
+        EXPECT_NE(s.ergebnis.text.find(std::string("\n") + f.zeile + "\n"), std::string::npos) << f.name << "\n"
+                                                                                               << s.ergebnis.text;
     }
 }

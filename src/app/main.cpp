@@ -2,6 +2,7 @@
 #include <string>
 #include <vector>
 
+#include "Autoplay.h"
 #include "Kommandozeile.h"
 #include "Version.h"
 
@@ -20,6 +21,7 @@ int main(int argc, char** argv) {
         case app::Modus::Version:
             std::cout << "trumpona " << TRUMPONA_VERSION << "\n";
             return 0;
+        case app::Modus::Autoplay: return app::autoplayStarten(aufruf);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

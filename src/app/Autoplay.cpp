@@ -51,9 +51,9 @@ void bogenSchreiben(std::ostream& aus, const std::vector<Partiezeile>& zeilen, c
 }  // namespace
 
 int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& bogen) {
-    engine::Spiel spiel;
+    engine::Spiel spiel = auftrag.start.value_or(engine::Spiel{});
     for (const Sitz s : engine::alleSitze) {
-        spiel.namen[s] = auftrag.namen[static_cast<std::size_t>(s.nr() - 1)];
+        if (!auftrag.start) spiel.namen[s] = auftrag.namen[static_cast<std::size_t>(s.nr() - 1)];
         spiel.steuerung[s] = engine::Steuerung::Computer;
     }
     engine::SeedZufall zufall(auftrag.seed);
@@ -61,7 +61,8 @@ int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& b
     engine::Schiedsrichter schiedsrichter;
     ablauf.beobachterHinzufuegen(&schiedsrichter);
     ablauf.regelOptionenSetzen(auftrag.regeln);
-    ablauf.neuePartie();
+    if (auftrag.start) ablauf.fortsetzen();
+    else ablauf.neuePartie();
 
     players::KleinsteKarte spieler;
     engine::ProSitz<engine::Entscheider*> entscheider(&spieler);

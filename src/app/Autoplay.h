@@ -2,11 +2,13 @@
 // Headless play: four computer players play N games, Partie after Partie.
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <ostream>
 #include <string>
 
 #include "Kommandozeile.h"
 #include "engine/Regeln.h"
+#include "engine/Spiel.h"
 
 namespace app {
 
@@ -15,6 +17,7 @@ struct Autoplayauftrag {
     std::uint64_t seed = 1;
     engine::RegelOptionen regeln;
     std::array<std::string, 4> namen{"Spieler1", "Spieler2", "Spieler3", "Spieler4"};
+    std::optional<engine::Spiel> start;  // a loaded Partie to play on instead of a new one
 };
 
 // Plays the games; writes one JSON line per game to `json` (when given) and the

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "Autoplay.h"
+#include "PartieFortsetzen.h"
 #include "Kommandozeile.h"
 #include "Version.h"
 
@@ -21,7 +22,9 @@ int main(int argc, char** argv) {
         case app::Modus::Version:
             std::cout << "trumpona " << TRUMPONA_VERSION << "\n";
             return 0;
-        case app::Modus::Autoplay: return app::autoplayStarten(aufruf);
+        case app::Modus::Autoplay:
+            if (!aufruf.ladeDatei.empty()) return app::geladenePartieSpielen(aufruf, std::cout, std::cerr);
+            return app::autoplayStarten(aufruf);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

@@ -17,7 +17,7 @@ Ladeablauf ladeablauf(const Leseergebnis& ergebnis, const Spielstand& geladen) {
     const engine::Spiel& spiel = geladen.spiel;
     if (spiel.sticheGespielt == spiel.deck.kartenanzahl() / 4) {
         ablauf.sticheFragen = true;
-        if (!geladen.tisch.meldung.empty()) ablauf.nachDerFrage.push_back({geladen.tisch.meldung, Symbol::Ohne});
+        if (!spiel.ergebnis.text.empty()) ablauf.nachDerFrage.push_back({spiel.ergebnis.text, Symbol::Ohne});
         ablauf.stichansichtBeiJa = static_cast<int>(spiel.stiche.size());
         ablauf.weiter = Weiter::NaechstesSpiel;
         return ablauf;

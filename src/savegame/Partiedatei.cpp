@@ -27,17 +27,28 @@ using engine::Sitz;
 // 11    40     -    per seat: augen, reAngesagt, kontraAngesagt, partie.punkte, (0),
 //                   deck position played to the current trick, its place 1..4 in
 //                   the trick, (0), name, (0)
-// 12     6     -    (zeros)
+// 12     6     -    ablauf: phase, pruefung, pruefSitz, vorbehaltGefragt, hochzeitWunsch,
+//                   hochzeitWunschArt
 // 13     7     -    stich.aufspieler, stillerSolist, schweineHalter, limitSitz,
 //                   sticheGespielt, limitCode, partie.geber
-// 14-18  238   -    (zeros)
+// 14     5     -    steuerung per seat (0 person, 1 computer, 2 network), automatik
+// 15,16  176   -    (zeros)
+// 17    49     -    ergebnis: gewertet, gewinner, augenRe, augenKontra, sticheRe,
+//                   sticheKontra, spielwert, faktor, sonderpunkteGewinner,
+//                   sonderpunkteVerlierer, ergebnis, kalterSchlag, umkehr, bock,
+//                   buchungsPartei, punkteJeSitz, punkte per seat, limitEingehalten,
+//                   partieEnde, then zeros
+// 18     8     -    (zeros)
 // 19     1     -    partie.spielNr
 // 20-22  8     -    Tischanzeige: m_kontra_geben, m_unter, m_limit
 // 23     7     -    regeln: herzZehn, joker, limit, kontra, bockrunden, sopuKarlchen, vhSolo
 //                   (limit and kontra as their numbers: 0 off, else up to that trick)
 // 24    96     -    ansagen in order, 32 rows: seat (0 ends the list),
 //                   partei + 4 * limit + 8 * (limitCode + 1), trick
-// 25-28  7     -    Tischanzeige: sitzAnzeige, spielinfo, partnerinfo2, meldung
+// 25     4     -    Tischanzeige: sitzAnzeige
+// 26     1     -    spielbericht, the notes joined by tabs
+// 27     1     -    Tischanzeige: partnerinfo2
+// 28     1     -    ergebnis.text, the end box of a finished game (line breaks as tabs)
 // 29     1     -    partie.partieNr
 // 30   156     -    stiche 1..12: aufspieler (0 no trick), gewinner, codes by seat,
 //                   deck positions by seat, augen, (0), (0)
@@ -51,7 +62,7 @@ using engine::Sitz;
 // 38     1     8    partie.soloVorhandMarke
 // 39     4    10    charakter per seat
 // 40     4    20    partie.pflichtsoloGespielt per seat
-// 41     2    20    (zeros)
+// 41     2    20    supersauHalter, (0)
 // 42    17    20    stored options (settings dialog), Sopu_Fuchs .. Stille_befoerderung
 // 43    16    21    the same rules in force, 1 on / 0 off, without Sopu_karlchen
 // 44   288    22    partie.spieltabelle, games 25..96
@@ -72,6 +83,8 @@ struct Abbild {
     std::array<std::array<int, 3>, Ansagezeilen> ansagen{};
     std::array<int, 12> ansagenProStich{};
     std::string sonderpunkte;
+    std::string spielbericht;
+    std::string endtext;
 };
 
 // The 17 options of groups 42 and 43, a stretch of the engine's rule table.
@@ -91,6 +104,10 @@ public:
     int version() const { return Schreibversion; }
     void zahl(int& w) { z_.zahl(w); }
     void bereich(int& w, int, int) { z_.zahl(w); }
+    template <class E>
+    void aufzaehlung(E& w, int, int) {
+        z_.zahl(static_cast<int>(w));
+    }
     void wahr(bool& w) { z_.wahr(w); }
     void haken(bool& w) { z_.zahl(w ? 1 : 0); }
     void text(std::string& w) { z_.text(w); }
@@ -117,6 +134,12 @@ public:
         if (!z_.zahl(n)) return;
         if (n < von || n > bis) ungueltig_ = true;
         else w = n;
+    }
+    template <class E>
+    void aufzaehlung(E& w, int von, int bis) {
+        int n = von - 1;
+        bereich(n, von, bis);
+        if (n >= von) w = static_cast<E>(n);
     }
     void wahr(bool& w) { z_.wahr(w); }
     void haken(bool& w) {
@@ -202,7 +225,12 @@ void gruppen(A& a, Spielstand& stand, Abbild& b) {
         a.text(s.namen[x]);
         a.leer();
     }
-    a.leer(6);  // 12
+    a.aufzaehlung(s.ablauf.phase, 0, 6);  // 12
+    a.zahl(s.ablauf.pruefung);
+    a.bereich(s.ablauf.pruefSitz, 0, 4);
+    a.bereich(s.ablauf.vorbehaltGefragt, 0, 4);
+    a.sitz(s.ablauf.hochzeitWunsch);
+    a.zahl(s.ablauf.hochzeitWunschArt);
     a.sitz(s.stich.aufspieler);  // 13
     a.sitz(s.stillerSolist);
     a.sitz(s.schweineHalter);
@@ -210,7 +238,25 @@ void gruppen(A& a, Spielstand& stand, Abbild& b) {
     a.bereich(s.sticheGespielt, 0, 12);
     a.bereich(s.limitCode, -1, 3);
     a.zahl(p.geber);
-    a.leer(5 + 112 + 64 + 49 + 8);  // 14..18
+    for (const Sitz x : engine::alleSitze) a.aufzaehlung(s.steuerung[x], 0, 2);  // 14
+    a.wahr(s.automatik);
+    a.leer(112 + 64);  // 15, 16
+    engine::Spielergebnis& erg = s.ergebnis;  // 17
+    a.wahr(erg.gewertet);
+    for (int* w : {&erg.gewinner, &erg.augenRe, &erg.augenKontra, &erg.sticheRe, &erg.sticheKontra, &erg.spielwert, &erg.faktor,
+                   &erg.sonderpunkteGewinner, &erg.sonderpunkteVerlierer, &erg.ergebnis}) {
+        a.zahl(*w);
+    }
+    a.wahr(erg.kalterSchlag);
+    a.wahr(erg.umkehr);
+    a.wahr(erg.bock);
+    a.zahl(erg.buchungsPartei);
+    a.zahl(erg.punkteJeSitz);
+    for (const Sitz x : engine::alleSitze) a.zahl(erg.punkte[x]);
+    a.zahl(erg.limitEingehalten);
+    a.wahr(erg.partieEnde);
+    a.leer(49 - 22);
+    a.leer(8);  // 18
     a.zahl(p.spielNr);  // 19
     a.wahr(t.kontraGebenAktiv);  // 20
     a.text(t.kontraGebenText);
@@ -228,9 +274,9 @@ void gruppen(A& a, Spielstand& stand, Abbild& b) {
         for (int& wert : zeile) a.zahl(wert);
     }
     for (int& wert : t.sitzAnzeige) a.zahl(wert);  // 25
-    a.text(t.spielinfo);  // 26
+    a.text(b.spielbericht);  // 26
     a.wahr(t.partnerinfo2Sichtbar);  // 27
-    a.text(t.meldung);  // 28
+    a.text(b.endtext);  // 28
     a.zahl(p.partieNr);  // 29
     for (auto& zeile : b.stiche) {  // 30
         for (int& wert : zeile) a.zahl(wert);
@@ -256,7 +302,8 @@ void gruppen(A& a, Spielstand& stand, Abbild& b) {
     }
     if (v >= 20) {  // 40, 41
         for (const Sitz x : engine::alleSitze) a.wahr(p.pflichtsoloGespielt[x]);
-        a.leer(2);
+        a.sitz(s.supersauHalter);
+        a.leer();
     }
     static const auto regeln17 = sonderregeln();
     if (v >= 20) {  // 42
@@ -347,6 +394,9 @@ Abbild abbildVon(const Spielstand& stand) {
         b.ansagenProStich[i] = stichAnsagenSchluessel(s.ansagenProStich[i]);
     }
     b.sonderpunkte = sonderpunkteText(s.sonderpunkte);
+    for (const auto& notiz : s.spielbericht) b.spielbericht += (b.spielbericht.empty() ? "" : "\t") + notiz;
+    b.endtext = s.ergebnis.text;
+    std::replace(b.endtext.begin(), b.endtext.end(), '\n', '\t');
     return b;
 }
 
@@ -415,6 +465,14 @@ bool abbildAnwenden(const Abbild& b, int version, Spielstand& stand) {
     auto sonderpunkte = sonderpunkteAus(b.sonderpunkte);
     if (!sonderpunkte) return false;
     s.sonderpunkte = std::move(*sonderpunkte);
+    s.spielbericht.clear();
+    for (std::size_t a = 0; a < b.spielbericht.size();) {
+        const auto e = std::min(b.spielbericht.find('\t', a), b.spielbericht.size());
+        s.spielbericht.push_back(b.spielbericht.substr(a, e - a));
+        a = e + 1;
+    }
+    s.ergebnis.text = b.endtext;
+    std::replace(s.ergebnis.text.begin(), s.ergebnis.text.end(), '\t', '\n');
     return true;
 }
 

@@ -18,9 +18,7 @@ struct Tischanzeige {
     bool limitAktiv = false;           // menu entry m_limit
     std::string limitText;
     std::array<int, 4> sitzAnzeige{};
-    std::string spielinfo;
     bool partnerinfo2Sichtbar = false;
-    std::string meldung;  // shown again after loading a finished game
     bool operator==(const Tischanzeige&) const = default;
 };
 

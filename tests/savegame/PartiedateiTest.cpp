@@ -70,6 +70,10 @@ TEST(PartieSchreiben, ZeilenUndGruppen) {
         {30, 0, "1"}, {30, 13, "2"},                   // leaders of tricks 1 and 2
         {30, 39, "0"},                                 // no fourth trick yet
         {34, 0, "1"}, {35, 0, "Doppelkopf|2|2;Fuchs gefangen|1|3"},
+        {12, 0, "3"}, {12, 4, "2"}, {14, 2, "2"}, {14, 4, "True"},   // phase, Hochzeit wish; seat 3 remote
+        {17, 0, "True"}, {17, 2, "130"}, {17, 21, "True"},           // game scored, Augen, end of Partie
+        {26, 0, "Hochzeit\tf\xFCr Schweinehirt (Spieler 2)"}, {28, 0, "Re hat gewonnen!\tMit 130 Augen"},
+        {41, 0, "4"},
         {42, 0, "-1"}, {42, 2, "0"}, {42, 10, "-1"}, {42, 16, "1"},  // stored options
         {43, 0, "1"}, {43, 14, "1"}, {43, 11, "0"},                  // in force: Fuchs, Supersau
         {46, 0, "False"},
@@ -106,6 +110,9 @@ TEST(PartieLesen, RundreiseFeldFuerFeld) {
         EXPECT_EQ(geladen.spiel.namen, gespeichert.spiel.namen);
         EXPECT_EQ(geladen.optionen, gespeichert.optionen);
         EXPECT_EQ(geladen.tisch, gespeichert.tisch);
+        EXPECT_EQ(geladen.spiel.ergebnis, gespeichert.spiel.ergebnis);
+        EXPECT_EQ(geladen.spiel.ablauf, gespeichert.spiel.ablauf);
+        EXPECT_EQ(geladen.spiel.spielbericht, gespeichert.spiel.spielbericht);
         EXPECT_EQ(geladen, gespeichert);
     }
 }
@@ -244,6 +251,8 @@ TEST(PartieLesen, WerteDieUnserZustandNichtFasstGeltenAlsBeschaedigt) {
         {10, 6, "-12345", Ergebnis::Erfolg},         // impossible Augen or strengths are taken as they stand
         {10, 5, "0", Ergebnis::Erfolg},
         {35, 0, "", Ergebnis::Erfolg},
+        {12, 0, "7", Ergebnis::Fehlgeschlagen},      // phase of the cycle
+        {14, 0, "3", Ergebnis::Fehlgeschlagen},      // who plays a seat
     };
     const auto zeilen = zeilenVon(partieSchreiben(testhilfe::vollerSpielstand()));
     for (const auto& f : faelle) {
@@ -306,7 +315,7 @@ TEST(Ladeablauf, BeendetesSpielFragtNachDenStichen) {
         st.spiel.deck.setzeKartenanzahl(f.karten);
         st.spiel.sticheGespielt = f.stiche;
         st.spiel.stiche.resize(static_cast<std::size_t>(f.stiche));
-        st.tisch.meldung = f.meldung;
+        st.spiel.ergebnis.text = f.meldung;
         const Ladeablauf a = ladeablauf({Ergebnis::Erfolg, 26, false}, st);
         EXPECT_EQ(a.sticheFragen, f.fragen) << f.karten << "/" << f.stiche;
         if (!f.fragen) continue;

@@ -92,6 +92,28 @@ inline savegame::Spielstand vollerSpielstand(int n = 0) {
         s.stiche.push_back(p);
     }
     s.sonderpunkte = {{"Doppelkopf", 2, 2}, {"Fuchs gefangen", 1, 3}};
+    s.spielbericht = {"Hochzeit", "für Schweinehirt (Spieler 2)"};
+    s.steuerung[Sitz(3)] = engine::Steuerung::Netz;
+    s.automatik = true;
+    s.supersauHalter = Sitz(4);
+    s.ablauf = {engine::Spielphase::Kartenspiel, 2, 3, 4, Sitz(2), engine::ErsterStich};
+    s.ergebnis.gewertet = true;
+    s.ergebnis.gewinner = 2;
+    s.ergebnis.augenRe = 130 + n;
+    s.ergebnis.augenKontra = 110;
+    s.ergebnis.sticheRe = 7;
+    s.ergebnis.spielwert = 3;
+    s.ergebnis.faktor = 2;
+    s.ergebnis.sonderpunkteVerlierer = 1;
+    s.ergebnis.ergebnis = -4;
+    s.ergebnis.kalterSchlag = true;
+    s.ergebnis.bock = true;
+    s.ergebnis.buchungsPartei = 1;
+    s.ergebnis.punkteJeSitz = 6;
+    s.ergebnis.punkte[Sitz(2)] = -6;
+    s.ergebnis.limitEingehalten = 0;
+    s.ergebnis.partieEnde = true;
+    s.ergebnis.text = "Re hat gewonnen!\nMit 130 Augen";
     s.partie.partieNr = 2 + n;
     s.partie.spielNr = 9;
     for (std::size_t g = 0; g < s.partie.spieltabelle.size(); ++g) {
@@ -113,9 +135,7 @@ inline savegame::Spielstand vollerSpielstand(int n = 0) {
     st.tisch.limitAktiv = true;
     st.tisch.limitText = "keine 90, ";
     st.tisch.sitzAnzeige = {1, -2, 3, 40};
-    st.tisch.spielinfo = "Buben-Solo";
     st.tisch.partnerinfo2Sichtbar = true;
-    st.tisch.meldung = "Re hat gewonnen!";
     return st;
 }
 

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "Dialogtexte.h"
+#include "engine/Vorbehalte.h"
 
 namespace table {
 
@@ -54,10 +55,8 @@ Auswahldialog* soloDialog(const std::vector<int>& erlaubt, bool franzoesisch, QW
 Auswahldialog* hochzeitDialog(QWidget* parent) {
     std::vector<std::pair<int, QString>> wahl;
     for (int art : {engine::ErsterStich, engine::ErsterFehlstich, engine::ErsterTrumpfstich})
-        wahl.emplace_back(art, QString::fromStdString(hochzeitArtText(art)));
-    return new Auswahldialog(QString::fromUtf8(texte::HochzeitTitel),
-                             QString::fromUtf8(texte::SieHeiraten) + QString::fromUtf8(texte::Des).trimmed() + QStringLiteral(" ..."),
-                             wahl, parent);
+        wahl.emplace_back(art, QString::fromStdString(std::string(engine::hochzeitArtText(art))));
+    return new Auswahldialog(QString::fromUtf8(texte::HochzeitTitel), QString::fromUtf8(texte::HochzeitFrage), wahl, parent);
 }
 
 }  // namespace table

@@ -5,10 +5,11 @@
 #include <array>
 #include <memory>
 
-#include "Ansagemenue.h"
+#include "engine/Ansagen.h"
 
 class QAction;
 class QLabel;
+class QMenu;
 
 namespace table {
 
@@ -27,7 +28,9 @@ public:
     QAction* neuePartieAktion() const { return neuePartie_; }
     QAction* automatikAktion() const { return automatik_; }
     QAction* reKontraAktion() const { return reKontra_; }
-    QAction* limitAktion(std::size_t i) const { return limits_[i]; }
+    // Index: the limit code (0 Schwarz .. 3 keine 90).
+    QAction* limitAktion(int limitCode) const { return limits_[static_cast<std::size_t>(limitCode)]; }
+    QMenu* limitMenue() const { return limitMenue_; }
     QAction* msgboxenAktion() const { return msgboxen_; }
     QAction* endeAktion() const { return ende_; }
     QAction* letzterStichAktion() const { return letzterStich_; }
@@ -41,7 +44,7 @@ public:
 
     void statusSetzen(const QString& text);
     QString status() const;
-    void ansagemenueSetzen(const Ansagemenue& menue);
+    void ansagemenueSetzen(const engine::Ansagemenue& menue);
     void automatikAnzeigen(bool laeuft);
     void partieendeAnzeigen(bool ende);
     // `MsgBoxModus`: 1 while the reasoning switch is checked, 3 otherwise.
@@ -77,6 +80,7 @@ private:
     QAction* neuePartie_ = nullptr;
     QAction* automatik_ = nullptr;
     QAction* reKontra_ = nullptr;
+    QMenu* limitMenue_ = nullptr;
     std::array<QAction*, 4> limits_{};
     QAction* msgboxen_ = nullptr;
     QAction* ende_ = nullptr;

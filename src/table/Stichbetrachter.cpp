@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "Ansagemenue.h"
+#include "engine/Ansagen.h"
 #include "Kartenbilder.h"
 #include "Tischtexte.h"
 
@@ -20,7 +20,7 @@ std::string stichBeschreibung(const engine::StichProtokoll& stich, int nummer, c
     if (ansagen.re) t += std::string("\n") + texte::ReAngesagt;
     if (ansagen.kontra) t += std::string("\n") + texte::KontraAngesagt;
     if (ansagen.limitSitz >= 1 && ansagen.limitSitz <= 4 && ansagen.limitCode >= 0)
-        t += "\n" + namen[engine::Sitz(ansagen.limitSitz)] + ": " + limittext(ansagen.limitCode);
+        t += "\n" + namen[engine::Sitz(ansagen.limitSitz)] + ": " + engine::limitMenuetext(ansagen.limitCode);
     return t;
 }
 

@@ -10,36 +10,19 @@ inline constexpr char Aufloesungswarnung[] = "Wir empfehlen eine Bildschirmaufl�
 // Menus.
 inline constexpr char MenuSpiel[] = "&Spiel";
 inline constexpr char NeuePartie[] = "&Neue Partie";
-inline constexpr char PartieAbbrechen[] = "Möchten Sie die laufende Partie abbrechen?";
 inline constexpr char PartieLaden[] = "Partie &laden...";
 inline constexpr char PartieSpeichern[] = "Partie &speichern unter...";
 inline constexpr char EinstellungenMenue[] = "&Einstellungen...";
 inline constexpr char NetzprotokollZeigen[] = "&Netzprotokoll zeigen";
 inline constexpr char Ende[] = "&Ende";
-inline constexpr char AutomatischSpielen[] = " &Automatisch spielen ";
-inline constexpr char AutomatikAbbrechen[] = "&Automatik abbrechen";
 inline constexpr char MenuAnsagen[] = "A&nsagen";
-inline constexpr char ReAusrufen[] = "&Re ausrufen";
-inline constexpr char KontraGeben[] = "&Kontra geben";
-inline constexpr char ReAusgerufen[] = "Re ausgerufen";
-inline constexpr char KontraGegeben[] = "Kontra gegeben";
-inline constexpr char LimitKein[] = "Limitgebot (kein";
-inline constexpr char LimitE[] = "e ";
-inline constexpr char LimitStich[] = " Stich)";
-inline constexpr char LimitZuFrueh[] = "Stufenlimits können erst nach der 1. Karte angesagt werden!";
 inline constexpr char MenuAnsicht[] = "&Ansicht";
 inline constexpr char LetzterStich[] = "&Letzter Stich";
 inline constexpr char AlleStiche[] = "Alle &Stiche des Spiels";
 inline constexpr char Spielzettel[] = "S&pielzettel";
 inline constexpr char MsgboxenZeigen[] = "&Überlegungen der Mitspieler zeigen";
 
-// Status line.
-inline constexpr char IhreKarte[] = "Ihre Karte bitte!";
-inline constexpr char Ueberlegt[] = " überlegt...";
-inline constexpr char BitteWarten[] = "Bitte warten!";
-inline constexpr char StichKomplett[] = "Stich komplett... bitte warten";
-inline constexpr char SpielBeendet[] = "Spiel beendet";
-inline constexpr char WarteAufVorbehalte[] = "Warte auf Vorbehaltmeldungen...";
+// Status line (the texts of the game cycle come from the engine).
 inline constexpr char Einsammeln[] = "Zum Einsammeln bitte auf den Stich klicken";
 
 // Name plates and the party pictures.
@@ -56,6 +39,7 @@ inline constexpr char Spielen[] = " Spielen";
 inline constexpr char Summe[] = "Summe";
 inline constexpr char DiesesSpiel[] = "Dieses Spiel";
 inline constexpr char SpielzettelTitel[] = "Spielzettel";
+inline constexpr char SpielendeTitel[] = "Spielergebnis";
 
 // The trick viewer.
 inline constexpr char StichTitel[] = "Stiche";
@@ -67,8 +51,5 @@ inline constexpr char ReAngesagt[] = "Re angesagt";
 inline constexpr char KontraAngesagt[] = "Kontra angesagt";
 inline constexpr char Zurueck[] = "< &Zurück";
 inline constexpr char Weiter[] = "&Weiter >";
-
-// The wrong-card box.
-inline constexpr char FalscheKarteTitel[] = "Falsche Karte!";
 
 }  // namespace table::texte

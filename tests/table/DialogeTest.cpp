@@ -7,7 +7,9 @@
 
 #include "QtAusgabe.h"
 
+#include "engine/Neugeben.h"
 #include "engine/TestHilfen.h"
+#include "engine/Vorbehalte.h"
 #include "table/Auswahldialoge.h"
 #include "table/Dialogtexte.h"
 #include "table/Kartenbilder.h"
@@ -33,8 +35,8 @@ TEST(Dialoge, FrageHatJaUndNeinMitDenKarten) {
     table::Kartenbilder bilder;
     const std::vector<int> neunen{kartencode(Karo, Neun), kartencode(Herz, Neun), kartencode(Pik, Neun),
                                   kartencode(Kreuz, Neun), kartencode(Kreuz, Neun)};
-    table::Meldungsdialog frage(bilder, QString::fromStdString(table::werfenTitel(table::Werfen::Neunen)),
-                                QString::fromStdString(table::werfenFrage(table::Werfen::Neunen, 5)), neunen,
+    table::Meldungsdialog frage(bilder, QString::fromStdString(neugebenTitel(NeunenWerfen)),
+                                QString::fromStdString(neugebenFrage(NeunenWerfen, 5)), neunen,
                                 table::Meldungsdialog::Art::Frage);
     EXPECT_EQ(frage.knoepfe()->button(QDialogButtonBox::Yes)->text().remove(QLatin1Char('&')), QStringLiteral("Ja"));
     EXPECT_EQ(frage.knoepfe()->button(QDialogButtonBox::No)->text().remove(QLatin1Char('&')), QStringLiteral("Nein"));
@@ -52,7 +54,7 @@ TEST(Dialoge, SoloDialogBietetNurErlaubteSoliAn) {
     Regeln regeln;
     for (const bool dabu : {false, true}) {
         regeln.dabuSolo = dabu;
-        std::unique_ptr<table::Auswahldialog> dialog(table::soloDialog(table::erlaubteSoli(regeln), false, nullptr));
+        std::unique_ptr<table::Auswahldialog> dialog(table::soloDialog(erlaubteSoloarten(regeln), false, nullptr));
         const auto angeboten = dialog->angeboten();
         EXPECT_EQ(std::count(angeboten.begin(), angeboten.end(), DamenBubenSolo), dabu ? 1 : 0);
         EXPECT_EQ(angeboten.size(), dabu ? 8u : 7u);

@@ -37,7 +37,7 @@ TEST(Hauptfenster, MenueeintraegeMitIhrenTexten) {
     }
     // Before a game nothing can be announced.
     EXPECT_FALSE(hfo.reKontraAktion()->isEnabled());
-    EXPECT_FALSE(hfo.limitAktion(0)->isEnabled());
+    EXPECT_FALSE(hfo.limitMenue()->isEnabled());
 }
 
 TEST(Hauptfenster, SchalterUndTitel) {
@@ -57,10 +57,13 @@ TEST(Hauptfenster, SchalterUndTitel) {
     engine::Spiel spiel = testhilfe::spielMitHaenden(engine::Normalspiel, {});
     spiel.partei[engine::Sitz(1)] = engine::ParteiKontra;
     spiel.kontraAngesagt[engine::Sitz(1)] = true;
-    hfo.ansagemenueSetzen(table::ansagemenue(spiel, true));
+    spiel.ablauf.phase = engine::Spielphase::Kartenspiel;
+    spiel.stich.anzahl = 1;
+    hfo.ansagemenueSetzen(engine::ansagemenue(spiel, engine::Sitz(1)));
     EXPECT_EQ(hfo.reKontraAktion()->text(), QStringLiteral("Kontra gegeben"));
     EXPECT_FALSE(hfo.reKontraAktion()->isEnabled());
-    EXPECT_TRUE(hfo.limitAktion(2)->isEnabled());
+    EXPECT_TRUE(hfo.limitAktion(engine::Keine60)->isEnabled());
+    EXPECT_TRUE(hfo.limitMenue()->isEnabled());
 }
 
 TEST(Hauptfenster, NeuePartieFragtNurBeiLaufenderPartie) {
@@ -86,13 +89,13 @@ TEST(Hauptfenster, NeuePartieFragtNurBeiLaufenderPartie) {
 TEST(Hauptfenster, LimitEintraegeMeldenIhrenCode) {
     table::Hauptfenster hfo;
     QSignalSpy limit(&hfo, &table::Hauptfenster::limitGewuenscht);
-    for (std::size_t i = 0; i < 4; ++i) {
-        hfo.limitAktion(i)->setEnabled(true);
-        hfo.limitAktion(i)->trigger();
+    for (int code = 0; code < 4; ++code) {
+        hfo.limitAktion(code)->setEnabled(true);
+        hfo.limitAktion(code)->trigger();
     }
     ASSERT_EQ(limit.count(), 4);
-    EXPECT_EQ(limit.at(0).first().toInt(), engine::Keine90);
-    EXPECT_EQ(limit.at(3).first().toInt(), engine::LimitSchwarz);
+    EXPECT_EQ(limit.at(0).first().toInt(), engine::LimitSchwarz);
+    EXPECT_EQ(limit.at(3).first().toInt(), engine::Keine90);
 }
 
 }  // namespace

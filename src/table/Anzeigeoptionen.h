@@ -8,6 +8,7 @@ struct Anzeigeoptionen {
     int kartenbild = 1;            // 1 and 3 French pictures, every other German
     int rueckseite = 5;            // number of the card back
     bool animation = true;
+    bool boxen = true;             // messages of the game in boxes, otherwise in the status line
     int einsammeln = 0;            // 0 collect at once, otherwise wait for a click
     bool augenZeigen = true;
     bool parteiZeigen = true;

@@ -4,6 +4,7 @@
 
 #include "Autoplay.h"
 #include "PartieFortsetzen.h"
+#include "Fensterstart.h"
 #include "Kommandozeile.h"
 #include "Screenshot.h"
 #include "Version.h"
@@ -26,6 +27,8 @@ int main(int argc, char** argv) {
         case app::Modus::Autoplay:
             if (!aufruf.ladeDatei.empty()) return app::geladenePartieSpielen(aufruf, std::cout, std::cerr);
             return app::autoplayStarten(aufruf);
+        case app::Modus::Spiel:
+            return app::spielStarten(aufruf, argc, argv);
         case app::Modus::Screenshot:
             return app::screenshotSchreiben(aufruf, argc, argv);
         default:

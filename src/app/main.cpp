@@ -4,7 +4,9 @@
 
 #include "Autoplay.h"
 #include "PartieFortsetzen.h"
+#include "Fensterstart.h"
 #include "Kommandozeile.h"
+#include "Screenshot.h"
 #include "Version.h"
 
 int main(int argc, char** argv) {
@@ -25,6 +27,10 @@ int main(int argc, char** argv) {
         case app::Modus::Autoplay:
             if (!aufruf.ladeDatei.empty()) return app::geladenePartieSpielen(aufruf, std::cout, std::cerr);
             return app::autoplayStarten(aufruf);
+        case app::Modus::Spiel:
+            return app::spielStarten(aufruf, argc, argv);
+        case app::Modus::Screenshot:
+            return app::screenshotSchreiben(aufruf, argc, argv);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

@@ -1,0 +1,23 @@
+#pragma once
+// The display options of the table, with the defaults of a fresh installation.
+#include <QColor>
+
+namespace table {
+
+struct Anzeigeoptionen {
+    int kartenbild = 1;            // 1 and 3 French pictures, every other German
+    int rueckseite = 5;            // number of the card back
+    bool animation = true;
+    bool boxen = true;             // messages of the game in boxes, otherwise in the status line
+    int einsammeln = 0;            // 0 collect at once, otherwise wait for a click
+    bool augenZeigen = true;
+    bool parteiZeigen = true;
+    int hintergrund = 6196318;     // Windows colour value (0x00BBGGRR)
+    int vordergrund = 0;
+};
+
+// A Windows colour value holds red in the lowest byte, then green, then blue.
+QColor ausWindowsFarbe(int wert);
+int zuWindowsFarbe(const QColor& farbe);
+
+}  // namespace table

@@ -1,0 +1,136 @@
+#include "Hauptfenster.h"
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+
+#include "Kartenbilder.h"
+#include "Tischansicht.h"
+#include "Tischtexte.h"
+#include "engine/Spielablauf.h"
+
+namespace table {
+
+namespace {
+QString t(const char* text) { return QString::fromUtf8(text); }
+QString t(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+}  // namespace
+
+Hauptfenster::Hauptfenster(QWidget* parent)
+    : QMainWindow(parent), bilder_(std::make_unique<Kartenbilder>()) {
+    setObjectName(QStringLiteral("hfo"));
+    setWindowTitle(t(texte::Fenstertitel));
+    tisch_ = new Tischansicht(*bilder_, this);
+    setCentralWidget(tisch_);
+    statuszeile_ = new QLabel(this);
+    statusBar()->addWidget(statuszeile_, 1);
+    menuesAnlegen();
+    ansagemenueSetzen(engine::ansagemenue(engine::Spiel{}, engine::Sitz(1)));
+    tisch_->setFocus();
+}
+
+Hauptfenster::~Hauptfenster() = default;
+
+void Hauptfenster::menuesAnlegen() {
+    auto aktion = [](QMenu* menue, const QString& text, const char* name) {
+        QAction* a = menue->addAction(text);
+        a->setObjectName(QString::fromLatin1(name));
+        return a;
+    };
+    QMenu* spiel = menuBar()->addMenu(t(texte::MenuSpiel));
+    neuePartie_ = aktion(spiel, t(texte::NeuePartie), "m_neue_partie");
+    neuePartie_->setShortcut(QKeySequence(Qt::Key_F2));
+    spiel->addSeparator();
+    laden_ = aktion(spiel, t(texte::PartieLaden), "m_laden");
+    speichern_ = aktion(spiel, t(texte::PartieSpeichern), "m_speichern");
+    spiel->addSeparator();
+    einstellungen_ = aktion(spiel, t(texte::EinstellungenMenue), "m_einstellungen");
+    netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "m_netzprotokoll");
+    spiel->addSeparator();
+    ende_ = aktion(spiel, t(texte::Ende), "m_ende");
+    ende_->setShortcut(QKeySequence(Qt::ALT | Qt::Key_F4));
+    for (QAction* spaeter : {laden_, speichern_, einstellungen_, netzprotokoll_}) spaeter->setEnabled(false);
+
+    QMenu* ansagen = menuBar()->addMenu(t(texte::MenuAnsagen));
+    reKontra_ = aktion(ansagen, t(engine::ansagetext::ReAusrufen), "m_ansage");
+    limitMenue_ = ansagen->addMenu(QString());
+    limitMenue_->setObjectName(QStringLiteral("m_limitgebot"));
+    // From keine 90 down to kein Stich.
+    for (int code = engine::Keine90; code >= engine::LimitSchwarz; --code) {
+        QAction* a = limitMenue_->addAction(QString::fromStdString(engine::limitMenuetext(code)));
+        a->setObjectName(QStringLiteral("m_limit%1").arg(code));
+        connect(a, &QAction::triggered, this, [this, code] { emit limitGewuenscht(code); });
+        limits_[static_cast<std::size_t>(code)] = a;
+    }
+
+    QMenu* ansicht = menuBar()->addMenu(t(texte::MenuAnsicht));
+    letzterStich_ = aktion(ansicht, t(texte::LetzterStich), "m_letzter_stich");
+    alleStiche_ = aktion(ansicht, t(texte::AlleStiche), "m_alle_stiche");
+    spielzettel_ = aktion(ansicht, t(texte::Spielzettel), "m_spielzettel");
+    ansicht->addSeparator();
+    msgboxen_ = aktion(ansicht, t(texte::MsgboxenZeigen), "m_msgboxen_zeigen");
+    msgboxen_->setCheckable(true);
+
+    // Straight in the menu bar, as a button.
+    automatik_ = menuBar()->addAction(t(engine::ablauftext::AutomatischSpielen));
+    automatik_->setObjectName(QStringLiteral("m_automatisch"));
+
+    connect(neuePartie_, &QAction::triggered, this, &Hauptfenster::m_neue_partie_click);
+    connect(ende_, &QAction::triggered, this, &Hauptfenster::SubPrgBeenden);
+    connect(automatik_, &QAction::triggered, this, &Hauptfenster::automatikGewuenscht);
+    connect(reKontra_, &QAction::triggered, this, &Hauptfenster::reKontraGewuenscht);
+    connect(letzterStich_, &QAction::triggered, this, &Hauptfenster::letzterStichGewuenscht);
+    connect(alleStiche_, &QAction::triggered, this, &Hauptfenster::alleSticheGewuenscht);
+    connect(spielzettel_, &QAction::triggered, this, &Hauptfenster::spielzettelGewuenscht);
+}
+
+void Hauptfenster::statusSetzen(const QString& text) { statuszeile_->setText(text); }
+
+QString Hauptfenster::status() const { return statuszeile_->text(); }
+
+void Hauptfenster::ansagemenueSetzen(const engine::Ansagemenue& menue) {
+    reKontra_->setText(QString::fromStdString(menue.reKontra.text));
+    reKontra_->setEnabled(menue.reKontra.aktiv);
+    limitMenue_->setTitle(QString::fromStdString(menue.limit.text));
+    limitMenue_->setEnabled(menue.limit.aktiv);
+    for (std::size_t i = 0; i < limits_.size(); ++i) {
+        limits_[i]->setText(QString::fromStdString(menue.limits[i].text));
+        limits_[i]->setEnabled(menue.limits[i].aktiv);
+        limits_[i]->setCheckable(menue.limits[i].markiert);
+        limits_[i]->setChecked(menue.limits[i].markiert);
+    }
+}
+
+void Hauptfenster::automatikAnzeigen(bool laeuft) {
+    automatik_->setText(t(laeuft ? engine::ablauftext::AutomatikAbbrechen : engine::ablauftext::AutomatischSpielen));
+}
+
+void Hauptfenster::partieendeAnzeigen(bool ende) {
+    setWindowTitle(t(texte::Fenstertitel) + (ende ? t(texte::Partieende) : QString()));
+}
+
+int Hauptfenster::msgBoxModus() const { return msgboxen_->isChecked() ? 1 : 3; }
+
+void Hauptfenster::m_neue_partie_click() {
+    if (partieUnterwegs_ &&
+        QMessageBox::question(this, windowTitle(), t(engine::ablauftext::PartieAbbrechen), QMessageBox::Yes | QMessageBox::No) !=
+            QMessageBox::Yes)
+        return;
+    emit neuePartieGewuenscht();
+}
+
+void Hauptfenster::SubPrgBeenden() {
+    beendenBestaetigt_ = true;
+    emit beendenGewuenscht();
+    close();
+}
+
+void Hauptfenster::closeEvent(QCloseEvent* event) {
+    if (!beendenBestaetigt_) emit beendenGewuenscht();
+    event->accept();
+}
+
+}  // namespace table

@@ -1,0 +1,98 @@
+#pragma once
+// The main window `hfo`: menus, the table, the status line. It holds no game
+// logic; the controller feeds it and listens to its signals.
+#include <QMainWindow>
+#include <array>
+#include <memory>
+
+#include "engine/Ansagen.h"
+
+class QAction;
+class QLabel;
+class QMenu;
+
+namespace table {
+
+class Kartenbilder;
+class Tischansicht;
+
+class Hauptfenster : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit Hauptfenster(QWidget* parent = nullptr);
+    ~Hauptfenster() override;
+
+    Tischansicht& tisch() { return *tisch_; }
+    Kartenbilder& bilder() { return *bilder_; }
+
+    QAction* neuePartieAktion() const { return neuePartie_; }
+    QAction* automatikAktion() const { return automatik_; }
+    QAction* reKontraAktion() const { return reKontra_; }
+    // Index: the limit code (0 Schwarz .. 3 keine 90).
+    QAction* limitAktion(int limitCode) const { return limits_[static_cast<std::size_t>(limitCode)]; }
+    QMenu* limitMenue() const { return limitMenue_; }
+    QAction* msgboxenAktion() const { return msgboxen_; }
+    QAction* endeAktion() const { return ende_; }
+    QAction* letzterStichAktion() const { return letzterStich_; }
+    QAction* alleSticheAktion() const { return alleStiche_; }
+    QAction* spielzettelAktion() const { return spielzettel_; }
+    // Entries of later work: loading, saving, settings, network.
+    QAction* ladenAktion() const { return laden_; }
+    QAction* speichernAktion() const { return speichern_; }
+    QAction* einstellungenAktion() const { return einstellungen_; }
+    QAction* netzprotokollAktion() const { return netzprotokoll_; }
+
+    void statusSetzen(const QString& text);
+    QString status() const;
+    void ansagemenueSetzen(const engine::Ansagemenue& menue);
+    void automatikAnzeigen(bool laeuft);
+    void partieendeAnzeigen(bool ende);
+    // `MsgBoxModus`: 1 while the reasoning switch is checked, 3 otherwise.
+    int msgBoxModus() const;
+    // Whether "&Neue Partie" has to ask before it throws the running Partie away.
+    void setzePartieUnterwegs(bool unterwegs) { partieUnterwegs_ = unterwegs; }
+
+signals:
+    void neuePartieGewuenscht();
+    void automatikGewuenscht();
+    void reKontraGewuenscht();
+    void limitGewuenscht(int limitCode);
+    void letzterStichGewuenscht();
+    void alleSticheGewuenscht();
+    void spielzettelGewuenscht();
+    void beendenGewuenscht();
+
+public slots:
+    // "&Neue Partie": asks before a running Partie is abandoned.
+    void m_neue_partie_click();
+    // "&Ende".
+    void SubPrgBeenden();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void menuesAnlegen();
+
+    std::unique_ptr<Kartenbilder> bilder_;
+    Tischansicht* tisch_ = nullptr;
+    QLabel* statuszeile_ = nullptr;
+    QAction* neuePartie_ = nullptr;
+    QAction* automatik_ = nullptr;
+    QAction* reKontra_ = nullptr;
+    QMenu* limitMenue_ = nullptr;
+    std::array<QAction*, 4> limits_{};
+    QAction* msgboxen_ = nullptr;
+    QAction* ende_ = nullptr;
+    QAction* letzterStich_ = nullptr;
+    QAction* alleStiche_ = nullptr;
+    QAction* spielzettel_ = nullptr;
+    QAction* laden_ = nullptr;
+    QAction* speichern_ = nullptr;
+    QAction* einstellungen_ = nullptr;
+    QAction* netzprotokoll_ = nullptr;
+    bool partieUnterwegs_ = false;
+    bool beendenBestaetigt_ = false;
+};
+
+}  // namespace table

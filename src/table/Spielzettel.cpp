@@ -1,0 +1,59 @@
+#include "Spielzettel.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include "Tischtexte.h"
+
+namespace table {
+
+std::string partieendeZeile(int abrOption, int endeBei, int endeNach) {
+    if (abrOption == 1)
+        return texte::PartieendeBei + std::to_string(endeBei) + texte::Punkt + (endeBei > 1 ? "en" : "");
+    return texte::PartieendeNach + std::to_string(endeNach) + texte::Spielen;
+}
+
+Spielzettel::Spielzettel(QWidget* parent) : QWidget(parent) {
+    auto* spalte = new QVBoxLayout(this);
+    tabelle_ = new QTableWidget(this);
+    tabelle_->setColumnCount(4);
+    tabelle_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    tabelle_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    spalte->addWidget(tabelle_);
+    endzeile_ = new QLabel(this);
+    setMinimumSize(480, 320);
+    spalte->addWidget(endzeile_);
+}
+
+void Spielzettel::setzeInhalt(const Spielzettelinhalt& inhalt) {
+    const int zeilen = static_cast<int>(inhalt.spiele.size()) + 1;
+    tabelle_->clearContents();
+    tabelle_->setRowCount(zeilen);
+    QStringList kopf;
+    for (const engine::Sitz s : engine::alleSitze) kopf << QString::fromStdString(inhalt.namen[s]);
+    tabelle_->setHorizontalHeaderLabels(kopf);
+    QStringList nummern;
+    auto zelle = [](int wert, bool fett) {
+        auto* item = new QTableWidgetItem(QString::number(wert));
+        item->setTextAlignment(Qt::AlignCenter);
+        QFont f = item->font();
+        f.setBold(fett);
+        item->setFont(f);
+        return item;
+    };
+    for (std::size_t i = 0; i < inhalt.spiele.size(); ++i) {
+        nummern << QString::number(i + 1);
+        for (const engine::Sitz s : engine::alleSitze)
+            tabelle_->setItem(static_cast<int>(i), s.nr() - 1, zelle(inhalt.spiele[i][s], false));
+    }
+    nummern << QString::fromUtf8(texte::Summe);
+    for (const engine::Sitz s : engine::alleSitze) tabelle_->setItem(zeilen - 1, s.nr() - 1, zelle(inhalt.summen[s], true));
+    tabelle_->setVerticalHeaderLabels(nummern);
+    endzeile_->setText(QString::fromStdString(partieendeZeile(inhalt.abrOption, inhalt.endeBei, inhalt.endeNach)));
+}
+
+QString Spielzettel::endzeile() const { return endzeile_->text(); }
+
+}  // namespace table

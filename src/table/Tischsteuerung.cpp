@@ -1,0 +1,413 @@
+#include "Tischsteuerung.h"
+
+#include <QMessageBox>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "Auswahldialoge.h"
+#include "Dialogtexte.h"
+#include "Hauptfenster.h"
+#include "Meldungsdialog.h"
+#include "Parteizeiger.h"
+#include "Spielendedialog.h"
+#include "Stichbetrachter.h"
+#include "Tischansicht.h"
+#include "Tischtexte.h"
+#include "engine/Kartentext.h"
+#include "engine/Neugeben.h"
+#include "engine/Stichspiel.h"
+#include "engine/Vorbehalte.h"
+#include "players/EinfacheSpieler.h"
+
+namespace table {
+
+using engine::Anfrage;
+using engine::Anfrageart;
+using engine::Antwort;
+using engine::Sitz;
+using engine::Steuerung;
+
+namespace {
+
+QString q(const std::string& text) { return QString::fromStdString(text); }
+
+std::vector<int> codesVon(const engine::Spiel& spiel, const std::vector<int>& positionen) {
+    std::vector<int> codes;
+    for (int pos : positionen)
+        if (pos >= 1 && pos <= engine::MaxPositionen) codes.push_back(spiel.deck[pos].code);
+    return codes;
+}
+
+// Any legal card, when a computer player offered an illegal one.
+int ersteErlaubteKarte(const engine::Spiel& spiel, Sitz sitz) {
+    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
+        if (spiel.deck[p].status == engine::InHand && engine::karteErlaubt(spiel, sitz, p)) return p;
+    return 0;
+}
+
+}  // namespace
+
+Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent)
+    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_) {
+    for (const Sitz s : engine::alleSitze) spiel_.namen[s] = "Spieler" + std::to_string(s.nr());
+    entscheider_.fill(std::make_shared<players::KleinsteKarte>());
+    ablauf_.meldungenAn(this);
+
+    Tischansicht& tisch = hfo_.tisch();
+    tisch.setzeSpiel(&spiel_);
+    connect(&tisch, &Tischansicht::karteGewaehlt, this, &Tischsteuerung::karteGewaehlt);
+    connect(&tisch, &Tischansicht::stichGeklickt, this, &Tischsteuerung::stichGeklickt);
+    connect(&tisch, &Tischansicht::bewegungFertig, this, [this] {
+        beschaeftigt_ = false;
+        if (spiel_.ablauf.phase == engine::Spielphase::StichVoll && einsammelnLaeuft_) {
+            einsammelnLaeuft_ = false;
+            ablauf_.antworten(Antwort::weiter(Anfrageart::StichEinsammeln));
+        }
+        weiter();
+    });
+    connect(&hfo_, &Hauptfenster::neuePartieGewuenscht, this, &Tischsteuerung::neuePartie);
+    connect(&hfo_, &Hauptfenster::automatikGewuenscht, this, &Tischsteuerung::automatikUmschalten);
+    connect(&hfo_, &Hauptfenster::reKontraGewuenscht, this, &Tischsteuerung::reKontra);
+    connect(&hfo_, &Hauptfenster::limitGewuenscht, this, &Tischsteuerung::limit);
+    connect(&hfo_, &Hauptfenster::letzterStichGewuenscht, this, &Tischsteuerung::letzterStich);
+    connect(&hfo_, &Hauptfenster::alleSticheGewuenscht, this, &Tischsteuerung::alleStiche);
+    connect(&hfo_, &Hauptfenster::spielzettelGewuenscht, this, &Tischsteuerung::spielzettelZeigen);
+}
+
+Tischsteuerung::~Tischsteuerung() = default;
+
+void Tischsteuerung::setzeOptionen(const Anzeigeoptionen& optionen) {
+    optionen_ = optionen;
+    hfo_.tisch().setzeOptionen(optionen);
+    ablauf_.kartenbildFranzoesisch(engine::franzoesischeBilder(optionen.kartenbild));
+}
+
+void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
+
+void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
+    spiel_.namen = namen;
+    hfo_.tisch().update();
+}
+
+void Tischsteuerung::setzeEntscheider(Sitz sitz, std::shared_ptr<engine::Entscheider> entscheider) {
+    entscheider_[sitz] = std::move(entscheider);
+}
+
+engine::Entscheider& Tischsteuerung::entscheider(Sitz sitz) { return *entscheider_[sitz]; }
+
+void Tischsteuerung::neuePartie() {
+    ++schritt_;
+    geplant_ = false;
+    beschaeftigt_ = false;
+    einsammelnLaeuft_ = false;
+    partieendeGemeldet_ = false;
+    zugGemeldet_ = -1;
+    zeilen_.clear();
+    letztesSpiel_ = engine::Spiel{};
+    meldungen_.clear();
+    hfo_.partieendeAnzeigen(false);
+    ablauf_.neuePartie();
+    hfo_.tisch().setzeStichSichtbar(true);
+    weiter();
+}
+
+void Tischsteuerung::fortsetzen(const engine::Spiel& stand) {
+    ++schritt_;
+    geplant_ = false;
+    beschaeftigt_ = false;
+    spiel_ = stand;
+    ablauf_.fortsetzen();
+    hfo_.tisch().setzeStichSichtbar(true);
+    weiter();
+}
+
+void Tischsteuerung::planen(int ms, void (Tischsteuerung::*schritt)()) {
+    if (geplant_) return;
+    geplant_ = true;
+    const int nr = schritt_;
+    QTimer::singleShot(ms, this, [this, nr, schritt] {
+        if (nr != schritt_) return;  // a new Partie began meanwhile
+        geplant_ = false;
+        (this->*schritt)();
+    });
+}
+
+void Tischsteuerung::meldung(const engine::Meldung& m) {
+    if (m.art == engine::Meldungsart::Supersau) emit supersauGemeldet();
+    // The end box is built from the scoring itself.
+    if (m.art != engine::Meldungsart::Spielende) meldungen_.push_back(m);
+}
+
+void Tischsteuerung::meldungenZeigen() {
+    while (!meldungen_.empty()) {
+        const engine::Meldung m = meldungen_.front();
+        meldungen_.erase(meldungen_.begin());
+        if (!optionen_.boxen || (m.titel.empty() && m.text.empty())) {
+            hfo_.statusSetzen(q(m.text));
+            continue;
+        }
+        imDialog_ = true;
+        Meldungsdialog::melden(hfo_.bilder(), &hfo_, q(m.titel), q(m.text), codesVon(spiel_, m.karten));
+        imDialog_ = false;
+    }
+}
+
+// One step of the game: show the state, then answer the open request or wait for
+// the person, a timer or an animation.
+void Tischsteuerung::weiter() {
+    if (beschaeftigt_ || imDialog_ || geplant_) return;
+    meldungenZeigen();
+    const Anfrage a = ablauf_.anfrage();
+    anzeigen(a);
+    const bool mensch = a.sitz == Sitz(1) && a.steuerung == Steuerung::Mensch && !spiel_.automatik;
+    switch (a.art) {
+        case Anfrageart::Geben:
+            ablauf_.antworten(Antwort::zufallsGeben());
+            planen(0, &Tischsteuerung::weiter);
+            return;
+        case Anfrageart::Neugeben:
+            if (mensch) neugebenBeantworten(a);
+            else ablauf_.antworten(Antwort::neugeben(a.neugeben.computerWuerde));
+            planen(0, &Tischsteuerung::weiter);
+            return;
+        case Anfrageart::Vorbehalt:
+            vorbehaltBeantworten(a);
+            planen(0, &Tischsteuerung::weiter);
+            return;
+        case Anfrageart::Karte: {
+            if (a.steuerung == Steuerung::Computer) {
+                planen(tempo_.karte, &Tischsteuerung::computerKarte);
+                return;
+            }
+            // Seat 1 clicks; the turn is signalled once per card, not per repaint.
+            const int karten = spiel_.sticheGespielt * 4 + spiel_.stich.anzahl;
+            if (mensch && zugGemeldet_ != karten) {
+                zugGemeldet_ = karten;
+                emit menschAmZug();
+            }
+            return;
+        }
+        case Anfrageart::StichEinsammeln:
+            if (optionen_.einsammeln == 0) planen(tempo_.stich, &Tischsteuerung::einsammeln);
+            return;  // otherwise a click on the trick collects it
+        case Anfrageart::NaechstesSpiel:
+            spielendeZeigen();
+            ablauf_.antworten(Antwort::weiter(Anfrageart::NaechstesSpiel));
+            emit spielGewertet();
+            planen(0, &Tischsteuerung::weiter);
+            return;
+        case Anfrageart::NeuePartie:
+            hfo_.partieendeAnzeigen(true);
+            if (!partieendeGemeldet_) {
+                partieendeGemeldet_ = true;
+                emit partieBeendet();
+            }
+            return;  // "&Neue Partie" starts the next one
+    }
+}
+
+void Tischsteuerung::anzeigen(const Anfrage& a) {
+    Tischansicht& tisch = hfo_.tisch();
+    QString status = q(a.status);
+    if (a.art == Anfrageart::StichEinsammeln && optionen_.einsammeln != 0) status = QString::fromUtf8(texte::Einsammeln);
+    hfo_.statusSetzen(status);
+    const bool karte = a.art == Anfrageart::Karte;
+    tisch.setzeAmZug(karte ? a.sitz : std::nullopt);
+    tisch.setzeKartenwahl(karte && a.sitz == Sitz(1) && a.steuerung == Steuerung::Mensch && !spiel_.automatik);
+    tisch.setzeParteibilder(oeffentlicheParteibilder(spiel_));
+    tisch.neuZeichnen();
+    hfo_.ansagemenueSetzen(ablauf_.menue(Sitz(1)));
+    hfo_.automatikAnzeigen(spiel_.automatik);
+    hfo_.setzePartieUnterwegs(ablauf_.partieLaeuft());
+    const bool spielVorbei = a.art == Anfrageart::NaechstesSpiel || a.art == Anfrageart::NeuePartie;
+    hfo_.letzterStichAktion()->setEnabled(!spiel_.stiche.empty() && !spielVorbei);
+    hfo_.alleSticheAktion()->setEnabled(spielVorbei || !letztesSpiel_.stiche.empty());
+}
+
+void Tischsteuerung::neugebenBeantworten(const Anfrage& a) {
+    const int grund = a.neugeben.grund;
+    imDialog_ = true;
+    const bool ja = Meldungsdialog::fragen(hfo_.bilder(), &hfo_, q(engine::neugebenTitel(grund)), q(a.neugeben.frage),
+                                           codesVon(spiel_, engine::gezeigteKarten(spiel_, *a.sitz, grund)));
+    imDialog_ = false;
+    ablauf_.antworten(Antwort::neugeben(ja));
+}
+
+void Tischsteuerung::vorbehaltBeantworten(const Anfrage& a) {
+    const Sitz s = *a.sitz;
+    const bool mensch = s == Sitz(1) && a.steuerung == Steuerung::Mensch && !spiel_.automatik;
+    const engine::Vorbehalt v = mensch ? vorbehaltFragen(a) : entscheider(s).vorbehaltWaehlen(spiel_, s);
+    const engine::Bescheid b = ablauf_.antworten(Antwort::mitVorbehalt(v));
+    if (b) return;
+    if (mensch && !b.grund.empty()) {
+        imDialog_ = true;
+        QMessageBox::information(&hfo_, QString::fromUtf8(texte::SoloTitel), q(b.grund));
+        imDialog_ = false;
+    }
+    ablauf_.antworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
+}
+
+engine::Vorbehalt Tischsteuerung::vorbehaltFragen(const Anfrage& a) {
+    engine::Vorbehalt v;
+    const bool franz = engine::franzoesischeBilder(optionen_.kartenbild);
+    imDialog_ = true;
+    bool soloWahl = a.vorbehalt.pflichtsolo;
+    if (!soloWahl && !a.vorbehalt.soloFrage.empty())
+        soloWahl = QMessageBox::question(&hfo_, QString::fromUtf8(texte::SoloTitel), q(a.vorbehalt.soloFrage),
+                                         QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+    if (soloWahl) {
+        std::unique_ptr<Auswahldialog> dialog(soloDialog(a.vorbehalt.soloarten, franz, &hfo_));
+        dialog->exec();
+        int typ = dialog->gewaehlt();
+        // A duty solo cannot be declined: a cancelled dialog plays the first kind.
+        if (typ == 0 && a.vorbehalt.pflichtsolo && !a.vorbehalt.soloarten.empty()) typ = a.vorbehalt.soloarten.front();
+        if (typ != 0) {
+            v.art = engine::Vorbehalt::Solo;
+            v.spieltyp = typ;
+        }
+    }
+    if (v.art == engine::Vorbehalt::Gesund && a.vorbehalt.hochzeitMoeglich) {
+        std::unique_ptr<Auswahldialog> dialog(hochzeitDialog(&hfo_));
+        dialog->exec();
+        if (const int art = dialog->gewaehlt()) {
+            v.art = engine::Vorbehalt::Hochzeit;
+            v.hochzeitArt = art;
+        }
+    }
+    imDialog_ = false;
+    return v;
+}
+
+void Tischsteuerung::computerKarte() {
+    const Anfrage a = ablauf_.anfrage();
+    if (a.art != Anfrageart::Karte || a.steuerung != Steuerung::Computer || beschaeftigt_) return weiter();
+    const Sitz s = *a.sitz;
+    engine::Entscheider& e = entscheider(s);
+    if (ablauf_.ansageMoeglich(s))
+        if (const auto ansage = e.ansageWaehlen(spiel_, s)) ablauf_.ansagen(s, *ansage);
+    int pos = e.karteWaehlen(spiel_, s);
+    if (!ablauf_.antworten(Antwort::karte(pos))) {
+        pos = ersteErlaubteKarte(spiel_, s);
+        ablauf_.antworten(Antwort::karte(pos));
+    }
+    karteGelegt(pos, s);
+}
+
+void Tischsteuerung::karteGelegt(int pos, Sitz sitz) {
+    beschaeftigt_ = true;
+    hfo_.tisch().setzeKartenwahl(false);
+    hfo_.tisch().karteFliegen(pos, sitz);
+}
+
+void Tischsteuerung::karteGewaehlt(int pos) {
+    const Anfrage a = ablauf_.anfrage();
+    if (a.art != Anfrageart::Karte || a.sitz != Sitz(1) || a.steuerung != Steuerung::Mensch || spiel_.automatik ||
+        beschaeftigt_ || imDialog_)
+        return;
+    const engine::Bescheid b = ablauf_.antworten(Antwort::karte(pos));
+    if (!b) {
+        // The card stays in the hand; the person chooses again.
+        imDialog_ = true;
+        QMessageBox::information(&hfo_, QString::fromUtf8(texte::FalscheKarteTitel), q(b.grund));
+        imDialog_ = false;
+        return;
+    }
+    karteGelegt(pos, Sitz(1));
+}
+
+void Tischsteuerung::einsammeln() {
+    if (spiel_.ablauf.phase != engine::Spielphase::StichVoll || beschaeftigt_) return weiter();
+    beschaeftigt_ = true;
+    einsammelnLaeuft_ = true;
+    hfo_.tisch().stichEinsammeln(spiel_.stiche.back().gewinner);
+}
+
+void Tischsteuerung::stichGeklickt() {
+    if (ablauf_.anfrage().art != Anfrageart::StichEinsammeln || beschaeftigt_ || imDialog_ || geplant_) return;
+    einsammeln();
+}
+
+void Tischsteuerung::spielendeZeigen() {
+    const engine::Spielergebnis& e = spiel_.ergebnis;
+    zeilen_.push_back(e.punkte);
+    letztesSpiel_ = spiel_;
+    Spielergebnis r;
+    r.titel = texte::SpielendeTitel;
+    r.text = e.text;
+    r.namen = spiel_.namen;
+    r.punkte = e.punkte;
+    r.summen = spiel_.partie.punkte;
+    imDialog_ = true;
+    Spielendedialog box(r, &hfo_);
+    box.exec();
+    imDialog_ = false;
+}
+
+void Tischsteuerung::ansageBescheid(const engine::Bescheid& b) {
+    if (!b && !b.grund.empty()) {
+        imDialog_ = true;
+        QMessageBox::information(&hfo_, hfo_.windowTitle(), q(b.grund));
+        imDialog_ = false;
+    }
+    meldungenZeigen();
+    anzeigen(ablauf_.anfrage());
+}
+
+void Tischsteuerung::reKontra() { ansageBescheid(ablauf_.ansagen(Sitz(1), engine::Ansage{})); }
+
+void Tischsteuerung::limit(int limitCode) { ansageBescheid(ablauf_.ansagen(Sitz(1), engine::Ansage{true, limitCode})); }
+
+void Tischsteuerung::automatikUmschalten() {
+    ablauf_.automatikUmschalten();
+    anzeigen(ablauf_.anfrage());
+    weiter();
+}
+
+void Tischsteuerung::letzterStich() {
+    if (spiel_.stiche.empty()) return;
+    Stichbetrachter betrachter(hfo_.bilder(), &hfo_);
+    betrachter.setzeStiche(spiel_, {spiel_.stiche.back()}, 0);
+    imDialog_ = true;
+    betrachter.exec();
+    imDialog_ = false;
+    weiter();
+}
+
+void Tischsteuerung::alleStiche() {
+    const bool vorbei = spiel_.ablauf.phase == engine::Spielphase::Spielende ||
+                        spiel_.ablauf.phase == engine::Spielphase::Partieende;
+    const engine::Spiel& gezeigt = vorbei ? spiel_ : letztesSpiel_;
+    if (gezeigt.stiche.empty()) return;
+    Stichbetrachter betrachter(hfo_.bilder(), &hfo_);
+    betrachter.setzeStiche(gezeigt, gezeigt.stiche, 0);
+    imDialog_ = true;
+    betrachter.exec();
+    imDialog_ = false;
+    weiter();
+}
+
+Spielzettelinhalt Tischsteuerung::spielzettelInhalt() const {
+    Spielzettelinhalt inhalt;
+    inhalt.namen = spiel_.namen;
+    inhalt.spiele = zeilen_;
+    inhalt.summen = spiel_.partie.punkte;
+    inhalt.abrOption = spiel_.regeln.abrOption;
+    inhalt.endeBei = spiel_.regeln.endeBei;
+    inhalt.endeNach = spiel_.regeln.endeNach;
+    return inhalt;
+}
+
+void Tischsteuerung::spielzettelZeigen() {
+    QDialog dialog(&hfo_);
+    dialog.setWindowTitle(QString::fromUtf8(texte::SpielzettelTitel));
+    auto* zettel = new Spielzettel(&dialog);
+    zettel->setzeInhalt(spielzettelInhalt());
+    auto* spalte = new QVBoxLayout(&dialog);
+    spalte->addWidget(zettel);
+    imDialog_ = true;
+    dialog.exec();
+    imDialog_ = false;
+    weiter();
+}
+
+}  // namespace table

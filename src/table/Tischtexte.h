@@ -1,0 +1,55 @@
+#pragma once
+// The German texts of the table window, in one place.
+
+namespace table::texte {
+
+inline constexpr char Fenstertitel[] = "Trumpona";
+inline constexpr char Partieende[] = " - P a r t i e e n d e";
+inline constexpr char Aufloesungswarnung[] = "Wir empfehlen eine Bildschirmauflösung von mindestens800*600 Punkten!";
+
+// Menus.
+inline constexpr char MenuSpiel[] = "&Spiel";
+inline constexpr char NeuePartie[] = "&Neue Partie";
+inline constexpr char PartieLaden[] = "Partie &laden...";
+inline constexpr char PartieSpeichern[] = "Partie &speichern unter...";
+inline constexpr char EinstellungenMenue[] = "&Einstellungen...";
+inline constexpr char NetzprotokollZeigen[] = "&Netzprotokoll zeigen";
+inline constexpr char Ende[] = "&Ende";
+inline constexpr char MenuAnsagen[] = "A&nsagen";
+inline constexpr char MenuAnsicht[] = "&Ansicht";
+inline constexpr char LetzterStich[] = "&Letzter Stich";
+inline constexpr char AlleStiche[] = "Alle &Stiche des Spiels";
+inline constexpr char Spielzettel[] = "S&pielzettel";
+inline constexpr char MsgboxenZeigen[] = "&Überlegungen der Mitspieler zeigen";
+
+// Status line (the texts of the game cycle come from the engine).
+inline constexpr char Einsammeln[] = "Zum Einsammeln bitte auf den Stich klicken";
+
+// Name plates and the party pictures.
+inline constexpr char Augen[] = "Augen: ";
+inline constexpr char ParteiRe[] = "Re";
+inline constexpr char ParteiKontra[] = "Kontra";
+inline constexpr char ParteiUnbekannt[] = "?";
+
+// The score sheet.
+inline constexpr char PartieendeBei[] = "Partieende bei Überschreiten von ";
+inline constexpr char Punkt[] = " Punkt";
+inline constexpr char PartieendeNach[] = "Partieende nach ";
+inline constexpr char Spielen[] = " Spielen";
+inline constexpr char Summe[] = "Summe";
+inline constexpr char DiesesSpiel[] = "Dieses Spiel";
+inline constexpr char SpielzettelTitel[] = "Spielzettel";
+inline constexpr char SpielendeTitel[] = "Spielergebnis";
+
+// The trick viewer.
+inline constexpr char StichTitel[] = "Stiche";
+inline constexpr char StichNummer[] = ". Stich";
+inline constexpr char SpieltAus[] = " spielt aus, ";
+inline constexpr char Gewinnt[] = " gewinnt mit ";
+inline constexpr char AugenKurz[] = " Augen";
+inline constexpr char ReAngesagt[] = "Re angesagt";
+inline constexpr char KontraAngesagt[] = "Kontra angesagt";
+inline constexpr char Zurueck[] = "< &Zurück";
+inline constexpr char Weiter[] = "&Weiter >";
+
+}  // namespace table::texte

@@ -1,0 +1,159 @@
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <gtest/gtest.h>
+
+#include "QtAusgabe.h"
+
+#include "engine/Neugeben.h"
+#include "engine/TestHilfen.h"
+#include "engine/Vorbehalte.h"
+#include "table/Auswahldialoge.h"
+#include "table/Dialogtexte.h"
+#include "table/Kartenbilder.h"
+#include "table/Meldungsdialog.h"
+#include "table/Spielendedialog.h"
+#include "table/Spielzettel.h"
+#include "table/Stichbetrachter.h"
+
+namespace {
+
+using namespace engine;
+
+// With TRUMPONA_TESTBILDER set the dialogs are kept as pictures for looking at.
+void bildAblegen(QWidget& w, const QString& name) {
+    const QString ordner = qEnvironmentVariable("TRUMPONA_TESTBILDER");
+    if (ordner.isEmpty()) return;
+    w.adjustSize();
+    w.grab().save(QDir(ordner).filePath(name + QStringLiteral(".png")));
+}
+
+// German standard buttons come from Qt's translation, which the package list installs.
+TEST(Dialoge, FrageHatJaUndNeinMitDenKarten) {
+    table::Kartenbilder bilder;
+    const std::vector<int> neunen{kartencode(Karo, Neun), kartencode(Herz, Neun), kartencode(Pik, Neun),
+                                  kartencode(Kreuz, Neun), kartencode(Kreuz, Neun)};
+    table::Meldungsdialog frage(bilder, QString::fromStdString(neugebenTitel(NeunenWerfen)),
+                                QString::fromStdString(neugebenFrage(NeunenWerfen, 5)), neunen,
+                                table::Meldungsdialog::Art::Frage);
+    EXPECT_EQ(frage.knoepfe()->button(QDialogButtonBox::Yes)->text().remove(QLatin1Char('&')), QStringLiteral("Ja"));
+    EXPECT_EQ(frage.knoepfe()->button(QDialogButtonBox::No)->text().remove(QLatin1Char('&')), QStringLiteral("Nein"));
+    EXPECT_EQ(frage.karten(), neunen);
+    EXPECT_TRUE(frage.text().startsWith(QStringLiteral("Sie haben 5 Neunen!")));
+    bildAblegen(frage, QStringLiteral("neunen"));
+
+    table::Meldungsdialog hinweis(bilder, QStringLiteral("RE-Ausruf!"), QStringLiteral("Spieler3 ruft Re aus!"), {},
+                                  table::Meldungsdialog::Art::Hinweis);
+    EXPECT_EQ(hinweis.knoepfe()->buttons().size(), 1);
+    EXPECT_NE(hinweis.knoepfe()->button(QDialogButtonBox::Ok), nullptr);
+}
+
+TEST(Dialoge, SoloDialogBietetNurErlaubteSoliAn) {
+    Regeln regeln;
+    for (const bool dabu : {false, true}) {
+        regeln.dabuSolo = dabu;
+        std::unique_ptr<table::Auswahldialog> dialog(table::soloDialog(erlaubteSoloarten(regeln), false, nullptr));
+        const auto angeboten = dialog->angeboten();
+        EXPECT_EQ(std::count(angeboten.begin(), angeboten.end(), DamenBubenSolo), dabu ? 1 : 0);
+        EXPECT_EQ(angeboten.size(), dabu ? 8u : 7u);
+        EXPECT_EQ(dialog->beschriftung(Normalspiel), QStringLiteral("Schellen-Solo"));
+        dialog->waehlen(BubenSolo);
+        dialog->accept();
+        EXPECT_EQ(dialog->gewaehlt(), BubenSolo);
+        dialog->reject();
+        EXPECT_EQ(dialog->gewaehlt(), 0);
+    }
+}
+
+TEST(Dialoge, HochzeitDialogMitDenDreiArten) {
+    std::unique_ptr<table::Auswahldialog> dialog(table::hochzeitDialog(nullptr));
+    EXPECT_EQ(dialog->angeboten(), (std::vector<int>{ErsterStich, ErsterFehlstich, ErsterTrumpfstich}));
+    EXPECT_EQ(dialog->beschriftung(ErsterFehlstich), QStringLiteral("ersten Fehlstichs"));
+    dialog->waehlen(ErsterTrumpfstich);
+    dialog->accept();
+    EXPECT_EQ(dialog->gewaehlt(), ErsterTrumpfstich);
+    bildAblegen(*dialog, QStringLiteral("hochzeit"));
+}
+
+TEST(Dialoge, SpielzettelZeilenSummenUndEndzeile) {
+    table::Spielzettelinhalt inhalt;
+    for (const Sitz s : alleSitze) inhalt.namen[s] = "Spieler" + std::to_string(s.nr());
+    ProSitz<int> spiel1, spiel2;
+    spiel1[Sitz(1)] = 2;
+    spiel1[Sitz(3)] = 2;
+    spiel2[Sitz(2)] = 9;
+    inhalt.spiele = {spiel1, spiel2};
+    inhalt.summen[Sitz(1)] = 2;
+    inhalt.summen[Sitz(2)] = 9;
+    inhalt.summen[Sitz(3)] = 2;
+    table::Spielzettel zettel;
+    zettel.setzeInhalt(inhalt);
+    const QTableWidget& t = zettel.tabelle();
+    ASSERT_EQ(t.rowCount(), 3);
+    EXPECT_EQ(t.horizontalHeaderItem(1)->text(), QStringLiteral("Spieler2"));
+    EXPECT_EQ(t.item(0, 2)->text(), QStringLiteral("2"));
+    EXPECT_EQ(t.item(1, 1)->text(), QStringLiteral("9"));
+    EXPECT_EQ(t.verticalHeaderItem(2)->text(), QStringLiteral("Summe"));
+    EXPECT_EQ(t.item(2, 1)->text(), QStringLiteral("9"));
+    EXPECT_EQ(zettel.endzeile(), QStringLiteral("Partieende nach 24 Spielen"));
+    zettel.resize(520, 260);
+    bildAblegen(zettel, QStringLiteral("spielzettel"));
+
+    EXPECT_EQ(table::partieendeZeile(1, 30, 24), "Partieende bei Überschreiten von 30 Punkten");
+    EXPECT_EQ(table::partieendeZeile(1, 1, 24), "Partieende bei Überschreiten von 1 Punkt");
+}
+
+TEST(Dialoge, SpielendeZeigtTextUndPunkte) {
+    table::Spielergebnis ergebnis;
+    ergebnis.titel = "Spielende";
+    ergebnis.text = "Ihre Partei hat mit 151 Augen gewonnen!";
+    for (const Sitz s : alleSitze) ergebnis.namen[s] = "Spieler" + std::to_string(s.nr());
+    ergebnis.punkte[Sitz(1)] = 2;
+    ergebnis.punkte[Sitz(4)] = 2;
+    ergebnis.summen[Sitz(1)] = 5;
+    ergebnis.summen[Sitz(4)] = 3;
+    table::Spielendedialog box(ergebnis);
+    EXPECT_EQ(box.text(), QString::fromStdString(ergebnis.text));
+    EXPECT_EQ(box.tabelle().item(0, 3)->text(), QStringLiteral("2"));
+    EXPECT_EQ(box.tabelle().item(1, 0)->text(), QStringLiteral("5"));
+    EXPECT_EQ(box.tabelle().item(0, 1)->text(), QStringLiteral("0"));
+    bildAblegen(box, QStringLiteral("spielende"));
+}
+
+StichProtokoll stich(Sitz aufspieler, Sitz gewinner, int augen, std::array<int, 4> codes) {
+    StichProtokoll p;
+    p.aufspieler = aufspieler;
+    p.gewinner = gewinner;
+    p.augen = augen;
+    p.codes = codes;
+    return p;
+}
+
+TEST(Dialoge, StichbetrachterBlaettertUndNenntAnsagen) {
+    Spiel spiel = testhilfe::spielMitHaenden(Normalspiel, {});
+    spiel.stiche = {stich(Sitz(1), Sitz(3), 21, {kartencode(Kreuz, As), kartencode(Kreuz, Neun), kartencode(Kreuz, Zehn), kartencode(Kreuz, Koenig)}),
+                    stich(Sitz(3), Sitz(2), 28, {kartencode(Herz, As), kartencode(Herz, Zehn), kartencode(Karo, Dame), kartencode(Herz, Koenig)})};
+    spiel.ansagenProStich[1].kontra = true;
+    spiel.ansagenProStich[1].limitSitz = 4;
+    spiel.ansagenProStich[1].limitCode = Keine90;
+    table::Kartenbilder bilder;
+    table::Stichbetrachter betrachter(bilder);
+    betrachter.setzeStiche(spiel, spiel.stiche, 1);
+    EXPECT_EQ(betrachter.beschreibung(),
+              QStringLiteral("2. Stich: Spieler3 spielt aus, Spieler2 gewinnt mit 28 Augen\nKontra angesagt\n"
+                             "Spieler4: Limitgebot (keine 90)"));
+    bildAblegen(betrachter, QStringLiteral("stich"));
+    betrachter.blaettern(-1);
+    EXPECT_EQ(betrachter.beschreibung(), QStringLiteral("1. Stich: Spieler1 spielt aus, Spieler3 gewinnt mit 21 Augen"));
+    betrachter.blaettern(-1);
+    EXPECT_EQ(betrachter.gezeigt(), 0);
+
+    // Only the previous trick while the next runs: it keeps its number.
+    betrachter.setzeStiche(spiel, {spiel.stiche.back()}, 0);
+    EXPECT_EQ(betrachter.anzahl(), 1);
+    EXPECT_TRUE(betrachter.beschreibung().startsWith(QStringLiteral("2. Stich")));
+}
+
+}  // namespace

@@ -1,0 +1,210 @@
+#include <QAbstractButton>
+#include <QDialog>
+#include <QDir>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTimer>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "QtAusgabe.h"
+#include "engine/Stichspiel.h"
+#include "engine/Zufall.h"
+#include "table/Auswahldialoge.h"
+#include "table/Hauptfenster.h"
+#include "table/Meldungsdialog.h"
+#include "table/Spielendedialog.h"
+#include "table/Spielzettel.h"
+#include "table/Tischansicht.h"
+#include "table/Handordnung.h"
+#include "table/Tischsteuerung.h"
+
+namespace {
+
+using engine::Sitz;
+
+// With TRUMPONA_TESTBILDER set the boxes are kept as pictures for looking at.
+void bildAblegen(QWidget& w, const QString& name) {
+    const QString ordner = qEnvironmentVariable("TRUMPONA_TESTBILDER");
+    if (!ordner.isEmpty()) w.grab().save(QDir(ordner).filePath(name + QStringLiteral(".png")));
+}
+
+// Answers every box the table opens the way a cautious person would (no solo, no
+// redeal, OK) and notes what it saw.
+struct Boxenbeantworter {
+    std::vector<QString> falscheKarte;
+    std::vector<QString> spielende;
+    std::vector<std::vector<QString>> spielzettel;  // rows of the sheet, cells joined
+    int andere = 0;
+
+    void beantworten(QWidget* w) {
+        if (auto* box = qobject_cast<QMessageBox*>(w)) {
+            if (box->windowTitle() == QStringLiteral("Falsche Karte!")) falscheKarte.push_back(box->text());
+            else ++andere;
+            QAbstractButton* nein = box->button(QMessageBox::No);
+            (nein ? nein : box->buttons().first())->click();
+        } else if (auto* ende = qobject_cast<table::Spielendedialog*>(w)) {
+            spielende.push_back(ende->text());
+            bildAblegen(*ende, QStringLiteral("spielende-echt"));
+            ende->accept();
+        } else if (auto* zettel = w->findChild<table::Spielzettel*>()) {
+            std::vector<QString> zeilen;
+            const QTableWidget& t = zettel->tabelle();
+            for (int r = 0; r < t.rowCount(); ++r) {
+                QStringList zellen;
+                for (int c = 0; c < t.columnCount(); ++c) zellen << t.item(r, c)->text();
+                zeilen.push_back(zellen.join(QLatin1Char(' ')));
+            }
+            spielzettel.push_back(zeilen);
+            bildAblegen(*w, QStringLiteral("spielzettel-echt"));
+            qobject_cast<QDialog*>(w)->reject();
+        } else if (auto* dialog = qobject_cast<QDialog*>(w)) {
+            ++andere;
+            dialog->reject();
+        }
+    }
+};
+
+class TischsteuerungTest : public ::testing::Test {
+protected:
+    TischsteuerungTest() : steuerung_(hfo_, std::make_unique<engine::SeedZufall>(20240611)) {
+        table::Anzeigeoptionen optionen;
+        optionen.animation = false;
+        steuerung_.setzeOptionen(optionen);
+        steuerung_.setzeTempo({0, 0});
+        hfo_.resize(1024, 768);
+        hfo_.show();
+        QObject::connect(&pumpe_, &QTimer::timeout, [this] {
+            if (QWidget* modal = QApplication::activeModalWidget()) boxen_.beantworten(modal);
+        });
+        pumpe_.start(2);
+    }
+    ~TischsteuerungTest() override { pumpe_.stop(); }
+
+    table::Hauptfenster hfo_;
+    table::Tischsteuerung steuerung_;
+    Boxenbeantworter boxen_;
+    QTimer pumpe_;
+};
+
+// What the menu showed each time seat 1 was to play.
+struct Menuestand {
+    int sticheGespielt;
+    int kartenImStich;
+    bool reKontra;
+    bool limits;
+};
+
+TEST_F(TischsteuerungTest, GanzesSpielMitGeklicktenKartenVonSitz1) {
+    table::Tischansicht& tisch = hfo_.tisch();
+    const engine::Spiel& spiel = steuerung_.spiel();
+    bool falschVersucht = false;
+    int geklickt = 0;
+    std::vector<Menuestand> menues;
+    QTimer spieler;
+    QObject::connect(&spieler, &QTimer::timeout, [&] {
+        if (!tisch.kartenwahl() || QApplication::activeModalWidget()) return;
+        menues.push_back({spiel.sticheGespielt, spiel.stich.anzahl, hfo_.reKontraAktion()->isEnabled(),
+                          hfo_.limitMenue()->isEnabled()});
+        int wahl = 0;
+        for (int pos : tisch.handfolge()) {
+            const bool erlaubt = engine::karteErlaubt(spiel, Sitz(1), pos);
+            if (!falschVersucht && !erlaubt) {
+                wahl = pos;
+                falschVersucht = true;
+                break;
+            }
+            if (erlaubt && wahl == 0) wahl = pos;
+        }
+        QTest::mouseClick(&tisch, Qt::LeftButton, {}, tisch.kartenmitte(wahl).toPoint());
+        ++geklickt;
+    });
+    spieler.start(3);
+    QSignalSpy gewertet(&steuerung_, &table::Tischsteuerung::spielGewertet);
+    steuerung_.neuePartie();
+    ASSERT_TRUE(gewertet.wait(60000));
+    spieler.stop();
+
+    const engine::Spiel& gespielt = steuerung_.letztesSpiel();
+    EXPECT_EQ(gespielt.stiche.size(), 12u);
+    // Every card of seat 1 came from a click; a refused click left its card in the hand.
+    EXPECT_EQ(geklickt, 12 + static_cast<int>(boxen_.falscheKarte.size()));
+    // The seeded deal gives seat 1 a chance to try an illegal card.
+    ASSERT_TRUE(falschVersucht);
+    {
+        ASSERT_EQ(boxen_.falscheKarte.size(), 1u);
+        EXPECT_TRUE(boxen_.falscheKarte.front().contains(QStringLiteral("obwohl Sie noch")));
+    }
+    // The end box showed the engine's scoring, and the score sheet its points.
+    ASSERT_EQ(boxen_.spielende.size(), 1u);
+    EXPECT_EQ(boxen_.spielende.front(), QString::fromStdString(gespielt.ergebnis.text));
+    ASSERT_EQ(steuerung_.spielzettelZeilen().size(), 1u);
+    EXPECT_EQ(steuerung_.spielzettelZeilen().front(), gespielt.ergebnis.punkte);
+    hfo_.spielzettelAktion()->trigger();
+    ASSERT_EQ(boxen_.spielzettel.size(), 1u);
+    const auto& p = gespielt.ergebnis.punkte;
+    const QString zeile = QStringLiteral("%1 %2 %3 %4").arg(p[Sitz(1)]).arg(p[Sitz(2)]).arg(p[Sitz(3)]).arg(p[Sitz(4)]);
+    EXPECT_EQ(boxen_.spielzettel.front().front(), zeile);
+    EXPECT_EQ(boxen_.spielzettel.front().back(), zeile);  // the totals after one game
+
+    // Re/Kontra up to and including the fifth trick, limits from the first card on.
+    ASSERT_FALSE(menues.empty());
+    for (const auto& m : menues) {
+        const bool frist = m.sticheGespielt < 5;
+        if (!frist) {
+            EXPECT_FALSE(m.reKontra) << m.sticheGespielt;
+        }
+        EXPECT_EQ(m.limits, frist && (m.sticheGespielt > 0 || m.kartenImStich > 0)) << m.sticheGespielt;
+    }
+}
+
+TEST_F(TischsteuerungTest, FalscheKarteBleibtInDerHand) {
+    QSignalSpy gewertet(&steuerung_, &table::Tischsteuerung::spielGewertet);
+    steuerung_.neuePartie();
+    table::Tischansicht& tisch = hfo_.tisch();
+    const engine::Spiel& spiel = steuerung_.spiel();
+    // Legal cards until seat 1 holds one it may not play.
+    auto illegaleKarte = [&] {
+        for (int pos : tisch.handfolge())
+            if (!engine::karteErlaubt(spiel, Sitz(1), pos)) return pos;
+        return 0;
+    };
+    int falsch = 0;
+    for (int zug = 0; zug < 12 && falsch == 0; ++zug) {
+        QTRY_VERIFY_WITH_TIMEOUT(tisch.kartenwahl(), 10000);
+        falsch = illegaleKarte();
+        if (falsch != 0) break;
+        for (int pos : tisch.handfolge())
+            if (engine::karteErlaubt(spiel, Sitz(1), pos)) {
+                QTest::mouseClick(&tisch, Qt::LeftButton, {}, tisch.kartenmitte(pos).toPoint());
+                break;
+            }
+        QTRY_VERIFY_WITH_TIMEOUT(!tisch.kartenwahl() || illegaleKarte() != 0, 10000);
+    }
+    ASSERT_NE(falsch, 0);
+    const int vorher = table::kartenInHand(spiel, Sitz(1));
+    QTest::mouseClick(&tisch, Qt::LeftButton, {}, tisch.kartenmitte(falsch).toPoint());
+    QTRY_COMPARE_WITH_TIMEOUT(boxen_.falscheKarte.size(), std::size_t{1}, 5000);
+    EXPECT_EQ(spiel.deck[falsch].status, engine::InHand);
+    EXPECT_EQ(table::kartenInHand(spiel, Sitz(1)), vorher);
+    EXPECT_TRUE(tisch.kartenwahl());
+    EXPECT_EQ(hfo_.status(), QStringLiteral("Ihre Karte bitte!"));
+}
+
+TEST_F(TischsteuerungTest, AutomatikSpieltEinSpielZuEnde) {
+    QSignalSpy gewertet(&steuerung_, &table::Tischsteuerung::spielGewertet);
+    steuerung_.neuePartie();
+    hfo_.automatikAktion()->trigger();
+    EXPECT_EQ(hfo_.automatikAktion()->text(), QStringLiteral("&Automatik abbrechen"));
+    ASSERT_TRUE(gewertet.wait(60000));
+    EXPECT_EQ(steuerung_.letztesSpiel().stiche.size(), 12u);
+    EXPECT_TRUE(boxen_.falscheKarte.empty());
+    ASSERT_EQ(boxen_.spielende.size(), 1u);
+    EXPECT_EQ(boxen_.spielende.front(), QString::fromStdString(steuerung_.letztesSpiel().ergebnis.text));
+    hfo_.automatikAktion()->trigger();
+    EXPECT_EQ(hfo_.automatikAktion()->text(), QStringLiteral(" &Automatisch spielen "));
+}
+
+}  // namespace

@@ -1,0 +1,96 @@
+#pragma once
+// A constructed moment of a game: hands (shorter than a full hand when tricks have
+// gone), the trick so far, the table's knowledge; then ask the rule book.
+#include <array>
+#include <string>
+#include <vector>
+
+#include "engine/Stichspiel.h"
+#include "players/Begruendung.h"
+#include "players/Regelwerk.h"
+#include "players/Tischwissen.h"
+
+namespace testhilfe {
+
+class Situation {
+public:
+    engine::Spiel spiel;
+    engine::SeedZufall zufall{7};
+    players::Meldungsliste meldungen;
+    players::Tischwissen wissen{zufall, &meldungen};
+
+    // Seats 1..4 hold the listed codes; the rest of each block is out of play.
+    Situation(int spieltyp, std::array<std::vector<int>, 4> haende) {
+        spiel.spieltyp = spieltyp;
+        spiel.solo = spieltyp != engine::Normalspiel;
+        for (const engine::Sitz s : engine::alleSitze) {
+            int pos = spiel.deck.erstePosition(s);
+            for (int code : haende[static_cast<std::size_t>(s.nr() - 1)]) {
+                spiel.deck[pos].code = code;
+                spiel.deck[pos++].status = engine::InHand;
+            }
+            spiel.namen[s] = "Spieler" + std::to_string(s.nr());
+        }
+        spiel.deck.attributeBerechnen();
+        spiel.deck.staerkenBerechnen(spieltyp);
+        spiel.stich.beginnen(engine::Sitz(1));
+        wissen.msgBoxModus = players::MsgBoxZeigen;
+    }
+
+    // True parties (what the game flow fixes) for seats 1..4.
+    void parteien(std::array<int, 4> p) {
+        for (const engine::Sitz s : engine::alleSitze) spiel.partei[s] = p[static_cast<std::size_t>(s.nr() - 1)];
+    }
+    void aufspieler(int sitz) { spiel.stich.beginnen(engine::Sitz(sitz)); }
+    // The seat on turn plays the first such card of its hand.
+    void spielt(int code) {
+        const engine::Sitz s = spiel.stich.amZug();
+        engine::karteSpielen(spiel, position(s.nr(), code));
+    }
+    int position(int sitz, int code) const {
+        const engine::Sitz s(sitz);
+        for (int p = spiel.deck.erstePosition(s); p <= spiel.deck.letztePosition(s); ++p)
+            if (spiel.deck[p].code == code && spiel.deck[p].status == engine::InHand) return p;
+        return 0;
+    }
+    // Builds the knowledge from the game as set up; adjust beliefs afterwards.
+    void wissenAufbauen() { wissen.nachvollziehen(spiel); }
+    // Observer k believes seat x to be of party p.
+    void glaubt(int k, int x, int p) { wissen.parteiWissen[engine::Sitz(x)][engine::Sitz(k)] = p; }
+    void alleGlauben(int x, int p) {
+        for (const engine::Sitz k : engine::alleSitze) wissen.parteiWissen[engine::Sitz(x)][k] = p;
+    }
+    void frei(int x, int farbe) { wissen.farbeFrei[engine::Sitz(x)][static_cast<std::size_t>(farbe)].fill(true); }
+    void ohneTrumpf(int x) { wissen.keinTrumpf[engine::Sitz(x)].fill(true); }
+
+    // The card code the rule book chooses for the seat on turn.
+    int waehlt() {
+        meldungen.meldungen.clear();
+        players::Regelwerk regelwerk(wissen, zufall, &meldungen);
+        const int pos = regelwerk.karteWaehlen(spiel, spiel.stich.amZug());
+        return pos ? spiel.deck[pos].code : 0;
+    }
+    // "Verfahren:Code" of every rule that fired in the last choice, in order.
+    std::vector<std::string> regeln() const {
+        std::vector<std::string> v;
+        for (const auto& m : meldungen.meldungen)
+            if (m.art == players::Meldungsart::Regel) v.push_back(m.verfahren + ":" + m.code);
+        return v;
+    }
+    std::string ersteRegel() const {
+        const auto v = regeln();
+        return v.empty() ? std::string("-") : v.front();
+    }
+    bool rueckfall() const {
+        for (const auto& m : meldungen.meldungen)
+            if (m.art == players::Meldungsart::Rueckfall) return true;
+        return false;
+    }
+    bool zeigte(std::string_view text) const {
+        for (const auto& m : meldungen.meldungen)
+            if (m.text == text && m.anzeigen) return true;
+        return false;
+    }
+};
+
+}  // namespace testhilfe

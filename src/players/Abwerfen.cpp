@@ -55,6 +55,10 @@ bool gegnerMuessenBedienen(const Lage& l) {
     return true;
 }
 bool gegnerKannUebernehmen(const Lage& l, Sitz x) { return !l.freund(x) && l.kannUebernehmen(x); }
+// A non-partner void in the suit led who may still hold trump.
+bool gegnerKannStechen(const Lage& l, Sitz x) {
+    return !l.freund(x) && !l.trumpfGefuehrt && l.frei(x, l.zuBedienen) && !l.ohneTrumpf(x);
+}
 bool solistInDritthand(const Lage& l) { return l.spiel.solo && l.solist() == l.dritthandSitz(); }
 
 const std::array<Regel, 12> zweithand{{
@@ -69,7 +73,7 @@ const std::array<Regel, 12> zweithand{{
     {"ZH06", text::ZhHinterhandBedient,
      [](const Lage& l) { return wFreund(l) && l.hoechsteLiegt() && gegnerMuessenBedienen(l); }, hoechste},
     {"ZH07", text::ZhHinterhandSticht,
-     [](const Lage& l) { return wFreund(l) && l.hoechsteLiegt() && gegnerKannUebernehmen(l, hh(l)); }, kleinste},
+     [](const Lage& l) { return wFreund(l) && l.hoechsteLiegt() && gegnerKannStechen(l, hh(l)); }, kleinste},
     {"ZH08", text::ZhHinterhandKannNicht,
      [](const Lage& l) {
          return wFreund(l) && l.hoechsteLiegt() && !gegnerKannUebernehmen(l, hh(l)) &&
@@ -87,7 +91,7 @@ const std::array<Regel, 12> zweithand{{
      },
      hoechste},
     {"ZH11", text::ZhDritthandSticht,
-     [](const Lage& l) { return wFreund(l) && gegnerKannUebernehmen(l, l.dritthandSitz()); }, kleinste},
+     [](const Lage& l) { return wFreund(l) && gegnerKannStechen(l, l.dritthandSitz()); }, kleinste},
     {"ZH12", text::ZhHoechsteNichtGelegt, [](const Lage& l) { return wFreund(l) && !l.hoechsteLiegt(); },
      kleinste},
 }};
@@ -131,7 +135,7 @@ const std::array<Regel, 26> dritthand{{
     {"DH022", text::DH022,
      [](const Lage& l) {
          return !l.trumpfGefuehrt && l.werte.fremdeAnzahl[static_cast<std::size_t>(l.zuBedienen)] == 0 &&
-                !hhFreund(l) && !hhOhneTrumpf(l);
+                !hhFreund(l) && !hhOhneTrumpf(l) && !(wFreund(l) && l.genagelt());
      },
      kleinste},
     {"DH006", text::DH006, [](const Lage& l) { return l.gestochen && wFreund(l) && hhFreund(l); }, hoechste},

@@ -84,8 +84,9 @@ int dolleNagelnFilter(const Lage& l, int karte) {
             return sicher;
         }
     }
-    // No need to spend the Dolle where a smaller card nails the trick as well.
-    if (l.istDolle(karte) && l.nagelt(karte)) {
+    // No need to spend the Dolle where a smaller card nails the trick as well (unless
+    // it is played now so that it need not lead the last trick).
+    if (l.istDolle(karte) && l.nagelt(karte) && !(l.hand.size() == 2 && zweiteDolleDraussen(l))) {
         const int kleiner = billigste(l, [&](int p) { return l.nagelt(p) && !l.istDolle(p) && l.staerke(p) < StaerkeDolle; });
         if (kleiner != 0) {
             melden(l, "Nageln", std::string(text::NageleStattDolle) + nr(l, kleiner) + std::string(text::KarteEnde));

@@ -285,20 +285,14 @@ void Tischwissen::parteizeigerSetzen(const Spiel& spiel) {
     const bool angesagt = spiel.solo || spiel.hochzeiter.has_value();
     for (const Sitz x : alleSitze) {
         if (parteiBekannt[x] != ParteiUnbekannt) continue;
-        if (spiel.parteiMarker[x] == ParteiRe || spiel.reAngesagt[x]) {
-            parteiBekannt[x] = ParteiRe;
-        } else if (spiel.kontraAngesagt[x]) {
-            parteiBekannt[x] = ParteiKontra;
-        } else {
-            // What every other seat believes is public.
-            int gemeinsam = -1;
-            for (const Sitz k : alleSitze) {
-                if (k == x) continue;
-                const int g = parteiWissen[x][k];
-                gemeinsam = (gemeinsam == -1 || gemeinsam == g) ? g : 0;
-            }
-            if (gemeinsam > 0) parteiBekannt[x] = gemeinsam;
+        // What every other seat believes is public (a Kreuz-Dame, an announcement, ...).
+        int gemeinsam = -1;
+        for (const Sitz k : alleSitze) {
+            if (k == x) continue;
+            const int g = parteiWissen[x][k];
+            gemeinsam = (gemeinsam == -1 || gemeinsam == g) ? g : 0;
         }
+        if (gemeinsam > 0) parteiBekannt[x] = gemeinsam;
     }
     if (!angesagt && partei[Sitz(1)] == ParteiSolo)
         for (const Sitz x : alleSitze)
@@ -337,7 +331,12 @@ void Tischwissen::nachvollziehen(const Spiel& spiel) {
     stumm_ = true;
     zuruecksetzen();
     parteienFestlegen(spiel);
+    auto ansagenBis = [&](std::size_t stiche) {
+        for (const auto& ansage : spiel.ansagen)
+            if (static_cast<std::size_t>(ansage.stich) == stiche) ansageGemacht(spiel, ansage);
+    };
     for (std::size_t t = 0; t < spiel.stiche.size(); ++t) {
+        ansagenBis(t);
         const auto& protokoll = spiel.stiche[t];
         Stich stich;
         stich.beginnen(protokoll.aufspieler);
@@ -352,6 +351,7 @@ void Tischwissen::nachvollziehen(const Spiel& spiel) {
         }
         stichAuswerten(spiel, stich);
     }
+    ansagenBis(spiel.stiche.size());
     if (spiel.stich.anzahl < 4) {
         for (int i = 1; i <= spiel.stich.anzahl; ++i) {
             if (spiel.deck[spiel.stich.karte(i)].code == KreuzDameCode && !spiel.solo)

@@ -6,7 +6,10 @@
 #include <vector>
 
 #include "engine/Stichspiel.h"
+#include <optional>
+
 #include "players/Begruendung.h"
+#include "players/Lage.h"
 #include "players/Regelwerk.h"
 #include "players/Tischwissen.h"
 
@@ -20,7 +23,7 @@ public:
     players::Tischwissen wissen{zufall, &meldungen};
 
     // Seats 1..4 hold the listed codes; the rest of each block is out of play.
-    Situation(int spieltyp, std::array<std::vector<int>, 4> haende) {
+    Situation(int spieltyp, const std::vector<std::vector<int>>& haende) {
         spiel.spieltyp = spieltyp;
         spiel.solo = spieltyp != engine::Normalspiel;
         for (const engine::Sitz s : engine::alleSitze) {
@@ -53,8 +56,38 @@ public:
             if (spiel.deck[p].code == code && spiel.deck[p].status == engine::InHand) return p;
         return 0;
     }
+    // Plays like spielt() and tells the knowledge, as the game cycle does.
+    void beobachtet(int code) {
+        const engine::Sitz s = spiel.stich.amZug();
+        const int pos = position(s.nr(), code);
+        engine::karteSpielen(spiel, pos);
+        wissen.karteGespielt(spiel, s, pos);
+    }
+    // Completes the trick for the knowledge and starts the next one with the winner.
+    void stichFertig() {
+        const engine::Sitz gewinner = engine::stichGewinner(spiel);
+        ++spiel.sticheGespielt;
+        wissen.stichKomplett(spiel, gewinner);
+        spiel.stich.beginnen(gewinner);
+    }
     // Builds the knowledge from the game as set up; adjust beliefs afterwards.
     void wissenAufbauen() { wissen.nachvollziehen(spiel); }
+    // After wissenAufbauen: seat x truly is of party p and knows it.
+    void partei(int x, int p) {
+        const engine::Sitz s(x);
+        spiel.partei[s] = p;
+        wissen.partei[s] = p;
+        wissen.parteiWissen[s][s] = p;
+    }
+    // A declared solo of seat x: everybody knows the parties.
+    void solo(int x) {
+        spiel.solo = true;
+        spiel.solist = engine::Sitz(x);
+        for (const engine::Sitz s : engine::alleSitze) {
+            partei(s.nr(), s.nr() == x ? engine::ParteiSolo : engine::ParteiKontra);
+            alleGlauben(s.nr(), s.nr() == x ? engine::ParteiSolo : engine::ParteiKontra);
+        }
+    }
     // Observer k believes seat x to be of party p.
     void glaubt(int k, int x, int p) { wissen.parteiWissen[engine::Sitz(x)][engine::Sitz(k)] = p; }
     void alleGlauben(int x, int p) {
@@ -69,6 +102,14 @@ public:
         players::Regelwerk regelwerk(wissen, zufall, &meldungen);
         const int pos = regelwerk.karteWaehlen(spiel, spiel.stich.amZug());
         return pos ? spiel.deck[pos].code : 0;
+    }
+    // The view of the seat on turn, for asking a filter directly.
+    players::Lage lage() {
+        meldungen.meldungen.clear();
+        const engine::Sitz sitz = spiel.stich.amZug();
+        wissen.zugVorbereiten(spiel, sitz);
+        melder_.emplace(&meldungen, sitz, true);
+        return players::Lage(spiel, wissen, sitz, *melder_, zufall);
     }
     // "Verfahren:Code" of every rule that fired in the last choice, in order.
     std::vector<std::string> regeln() const {
@@ -91,6 +132,9 @@ public:
             if (m.text == text && m.anzeigen) return true;
         return false;
     }
+
+private:
+    std::optional<players::Melder> melder_;
 };
 
 }  // namespace testhilfe

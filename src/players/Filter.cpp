@@ -51,6 +51,22 @@ int zufaelligeFarbkarte(const Lage& l) { return l.zufaellige(l.auswahl([&](int p
 
 }  // namespace
 
+int freispielenFilter(const Lage& l, int karte) {
+    if (karte == 0 || l.anzahl == 0 || l.istTrumpf(karte) || l.schlaegt(karte) || l.augen(karte) < 4 ||
+        l.wissen.partei[l.ich] == ParteiSolo)
+        return karte;
+    // Throwing a lone König instead of a card of equal worth frees that suit for trumping.
+    for (int f : {Kreuz, Pik, Herz}) {
+        if (f == l.trumpf || f == l.karte(karte).farbe || l.anzahlInHand(f) != 1) continue;
+        const int koenig = l.werte.eigeneBeste[static_cast<std::size_t>(f)];
+        if (l.karte(koenig).wert == WertKoenig && l.augen(koenig) <= l.augen(karte)) {
+            melden(l, "Freispielen", text::Freispielen);
+            return koenig;
+        }
+    }
+    return karte;
+}
+
 int dolleBeimUebernehmen(const Lage& l, int karte) {
     if (karte == 0 || l.anzahl == 0) return karte;
     if (l.istDolle(karte) && gegnerMitZweiterDolle(l)) {

@@ -123,6 +123,7 @@ int stechenOderAbwerfen(const Lage& lage) {
     int karte = regelnAnwenden(stechenRegeln(lage.anzahl), lage, verfahren::Stechen);
     if (karte == 0) return 0;
     karte = zaehlerRetten(lage, karte);
+    karte = freispielenFilter(lage, karte);
     karte = dolleNagelnFilter(lage, karte);
     karte = fuchsKarlchenDolleFilter(lage, karte);
     return herzFilter(lage, karte);

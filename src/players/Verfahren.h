@@ -23,6 +23,8 @@ int rueckfallKarte(const Lage& lage);
 // Filters that may replace a chosen card (returning the new one, or the old).
 // Taking a trick: keep the Dolle from a later opponent with the second Dolle.
 int dolleBeimUebernehmen(const Lage& lage, int karte);
+// A discard of some worth: rather a lone König, which frees its suit.
+int freispielenFilter(const Lage& lage, int karte);
 int fuchsKarlchenDolleFilter(const Lage& lage, int karte);
 int dolleNagelnFilter(const Lage& lage, int karte);
 int herzFilter(const Lage& lage, int karte);

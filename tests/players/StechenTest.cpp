@@ -110,6 +110,17 @@ TEST(StechenOderAbwerfen, HerzNichtStechenSondernAbgeworfeneFarbe) {
     EXPECT_EQ(s.regeln(), (std::vector<std::string>{"stechen_oder_abwerfen:HH33", "Filter:Herz"}));
 }
 
+TEST(Filter, Freispielen) {
+    // Hinterhand discards onto the partner's trick; a lone Pik-König frees Pik.
+    Situation s(engine::Normalspiel, {{KreuzAs}, {KreuzNeun}, {KreuzKoenig}, {KaroNeun, PikKoenig, HerzKoenig, HerzNeun}});
+    for (int code : {KreuzAs, KreuzNeun, KreuzKoenig}) s.spielt(code);
+    s.wissenAufbauen();
+    const auto lage = s.lage();
+    EXPECT_EQ(s.spiel.deck[players::freispielenFilter(lage, s.position(4, HerzKoenig))].code, PikKoenig);
+    EXPECT_EQ(s.spiel.deck[players::freispielenFilter(lage, s.position(4, HerzNeun))].code, HerzNeun);
+    EXPECT_EQ(s.spiel.deck[players::freispielenFilter(lage, s.position(4, KaroNeun))].code, KaroNeun);
+}
+
 // Filters asked directly for a seat in Dritthand, with Hinterhand still to play.
 TEST(Filter, DolleUndNageln) {
     {

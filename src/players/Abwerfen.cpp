@@ -12,8 +12,6 @@ using namespace hilfe;
 
 namespace {
 
-int kleinste(const Lage& l) { return l.kleinsteAbwurf(); }
-int hoechste(const Lage& l) { return l.hoechsteAbwurf(); }
 
 Sitz hh(const Lage& l) { return l.hinterhandSitz(); }
 bool hhFreund(const Lage& l) { return l.freund(hh(l)); }

@@ -12,14 +12,14 @@ using namespace hilfe;
 
 namespace {
 
-int kleinste(const Lage& l) { return l.kleinsteDerFarbe(l.zuBedienen); }
-int hoechste(const Lage& l) { return l.hoechsteDerFarbe(l.zuBedienen); }
+int kleinsteDerFarbe(const Lage& l) { return l.kleinsteDerFarbe(l.zuBedienen); }
+int hoechsteDerFarbe(const Lage& l) { return l.hoechsteDerFarbe(l.zuBedienen); }
 int zufaellig(const Lage& l) { return l.zufaellige(l.erlaubt); }
 bool immer(const Lage&) { return true; }
 
 // The own highest card of the suit is the highest of the game and takes the trick.
 bool nimmtMitHoechster(const Lage& l) {
-    const int h = hoechste(l);
+    const int h = hoechsteDerFarbe(l);
     return h != 0 && l.staerke(h) >= l.werte.hoechsteFremde[static_cast<std::size_t>(l.zuBedienen)] && l.schlaegt(h);
 }
 bool klaerstichGast(const Lage& l) { return l.hochzeitsKlaerstich() && !l.binHochzeiter(); }
@@ -37,10 +37,10 @@ const std::array<Regel, 5> dritthand{{
      [](const Lage& l) {
          return !l.gestochen && wFeind(l) && !l.frei(l.hinterhandSitz(), l.zuBedienen) && nimmtMitHoechster(l);
      },
-     hoechste},
-    {"DH0160", text::FbDH0160, [](const Lage& l) { return l.frei(l.hinterhandSitz(), l.zuBedienen); }, kleinste},
-    {"DH0247", text::FbDH0247, [](const Lage& l) { return !l.gestochen && wFeind(l); }, kleinste},
-    {"DH0248", text::FbDH0248, [](const Lage& l) { return l.gestochen && wFeind(l); }, kleinste},
+     hoechsteDerFarbe},
+    {"DH0160", text::FbDH0160, [](const Lage& l) { return l.frei(l.hinterhandSitz(), l.zuBedienen); }, kleinsteDerFarbe},
+    {"DH0247", text::FbDH0247, [](const Lage& l) { return !l.gestochen && wFeind(l); }, kleinsteDerFarbe},
+    {"DH0248", text::FbDH0248, [](const Lage& l) { return l.gestochen && wFeind(l); }, kleinsteDerFarbe},
     alle,
 }};
 
@@ -48,10 +48,10 @@ const std::array<Regel, 6> hinterhand{{
     {"HH02", text::FbHH02,
      [](const Lage& l) { return l.hochzeitsKlaerstich() && l.binHochzeiter() && l.gewinner != l.ich; }, mitgift},
     {"HH03", text::FbHH03, [](const Lage& l) { return klaerstichGast(l) && !l.gestochen && l.kannSchlagen(); },
-     hoechste},
+     hoechsteDerFarbe},
     {"HH07", text::FbHH07, [](const Lage& l) { return klaerstichGast(l) && !l.gestochen && !l.kannSchlagen(); },
-     kleinste},
-    {"HH08", text::FbHH08, [](const Lage& l) { return klaerstichGast(l) && l.gestochen; }, kleinste},
+     kleinsteDerFarbe},
+    {"HH08", text::FbHH08, [](const Lage& l) { return klaerstichGast(l) && l.gestochen; }, kleinsteDerFarbe},
     {"HH14", text::FbHH14, [](const Lage& l) { return wFeind(l) && !l.gestochen && l.kannSchlagen(); },
      [](const Lage& l) { return l.kleinsterSchlagender(); }},
     alle,

@@ -4,6 +4,10 @@
 
 namespace players::hilfe {
 
+// The discard choices as table entries.
+inline int kleinste(const Lage& l) { return l.kleinsteAbwurf(); }
+inline int hoechste(const Lage& l) { return l.hoechsteAbwurf(); }
+
 inline bool wFreund(const Lage& l) { return l.gewinner && l.freund(*l.gewinner); }
 inline bool wFeind(const Lage& l) { return l.gewinner && !l.freund(*l.gewinner); }
 inline int gewinnerStaerke(const Lage& l) { return l.karte(l.gewinnerKarte).staerke; }

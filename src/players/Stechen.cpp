@@ -13,8 +13,6 @@ using namespace hilfe;
 
 namespace {
 
-int kleinste(const Lage& l) { return l.kleinsteAbwurf(); }
-int hoechste(const Lage& l) { return l.hoechsteAbwurf(); }
 int wertkleinster(const Lage& l) { return l.praktWertkleinsterTrumpf(); }
 
 bool ichRufe(const Lage& l) { return l.hochzeitsKlaerstich() && l.binHochzeiter() && l.gewinner != l.ich; }

@@ -3,58 +3,40 @@
 
 #include <functional>
 
+#include "Fall.h"
 #include "Karten.h"
-#include "Situation.h"
 #include "players/Texte.h"
 
 using namespace karten;
 using engine::ParteiKontra;
 using engine::ParteiRe;
+using testhilfe::Fall;
 using testhilfe::Situation;
-
-namespace {
-
-struct Fall {
-    const char* name;
-    std::vector<std::vector<int>> haende;  // seat 1 leads
-    std::function<void(Situation&)> wissen;
-    std::vector<std::string> regeln;
-    int karte;
-};
-
-void pruefen(const Fall& f) {
-    Situation s(engine::Normalspiel, f.haende);
-    s.wissenAufbauen();
-    if (f.wissen) f.wissen(s);
-    EXPECT_EQ(s.waehlt(), f.karte) << f.name;
-    EXPECT_EQ(s.regeln(), f.regeln) << f.name;
-}
-
-}  // namespace
+using testhilfe::pruefen;
 
 TEST(Ausspiel, Kette) {
     const Fall faelle[] = {
-        {"die höchsten Trümpfe ziehen zuerst", {{KreuzDame, KreuzDame, PikAs}, {PikDame, PikNeun}, {PikKoenig}, {HerzNeun}},
+        {"die höchsten Trümpfe ziehen zuerst", {{KreuzDame, KreuzDame, PikAs}, {PikDame, PikNeun}, {PikKoenig}, {HerzNeun}}, {},
          nullptr, {"AusspielWaehlen:00"}, KreuzDame},
         {"alle Trümpfe in der eigenen Hand: die Höchste, die keiner sticht",
-         {{PikDame, KreuzZehn, KreuzKoenig}, {KreuzNeun, PikNeun}, {HerzNeun}, {PikKoenig}}, nullptr,
+         {{PikDame, KreuzZehn, KreuzKoenig}, {KreuzNeun, PikNeun}, {HerzNeun}, {PikKoenig}}, {}, nullptr,
          {"AusspielWaehlen:05"}, KreuzZehn},
-        {"blanke Dolle", {{Dolle, KreuzNeun, KreuzKoenig}, {KaroNeun, PikNeun}, {Dolle, HerzNeun}, {PikKoenig}}, nullptr,
+        {"blanke Dolle", {{Dolle, KreuzNeun, KreuzKoenig}, {KaroNeun, PikNeun}, {Dolle, HerzNeun}, {PikKoenig}}, {}, nullptr,
          {"AusspielWaehlen:02"}, Dolle},
-        {"einziges As", {{KreuzAs, PikNeun, PikKoenig, KaroNeun}, {PikDame, KreuzNeun}, {HerzNeun}, {PikAs}}, nullptr,
+        {"einziges As", {{KreuzAs, PikNeun, PikKoenig, KaroNeun}, {PikDame, KreuzNeun}, {HerzNeun}, {PikAs}}, {}, nullptr,
          {"AusspielWaehlen:03"}, KreuzAs},
         {"einfaches As der kürzeren Farbe",
-         {{KreuzAs, KreuzNeun, KreuzKoenig, PikAs, PikNeun, KaroNeun}, {PikDame, KreuzNeun}, {HerzNeun}, {PikKoenig}},
+         {{KreuzAs, KreuzNeun, KreuzKoenig, PikAs, PikNeun, KaroNeun}, {PikDame, KreuzNeun}, {HerzNeun}, {PikKoenig}}, {},
          nullptr, {"AusspielWaehlen:03"}, PikAs},
-        {"Doppel-As", {{KreuzAs, KreuzAs, PikNeun, KaroNeun}, {PikDame, KreuzNeun}, {HerzNeun}, {PikKoenig}}, nullptr,
+        {"Doppel-As", {{KreuzAs, KreuzAs, PikNeun, KaroNeun}, {PikDame, KreuzNeun}, {HerzNeun}, {PikKoenig}}, {}, nullptr,
          {"AusspielWaehlen:03"}, KreuzAs},
-        {"kleinste Single", {{KaroNeun, PikKoenig, KreuzNeun, KreuzKoenig}, {PikDame, KreuzZehn}, {HerzNeun}, {PikAs}},
+        {"kleinste Single", {{KaroNeun, PikKoenig, KreuzNeun, KreuzKoenig}, {PikDame, KreuzZehn}, {HerzNeun}, {PikAs}}, {},
          nullptr, {"AusspielWaehlen:04"}, PikKoenig},
         {"Fuchs von oben wird durch eine Fehlkarte ersetzt",
-         {{KaroAs, KreuzNeun, KreuzNeun}, {KaroNeun, PikNeun}, {KaroKoenig}, {PikKoenig}}, nullptr,
+         {{KaroAs, KreuzNeun, KreuzNeun}, {KaroNeun, PikNeun}, {KaroKoenig}, {PikKoenig}}, {}, nullptr,
          {"AusspielWaehlen:07", "Filter:FuchsKM"}, KreuzNeun},
         {"kleiner Trumpf, dann die Dolle statt sie blank zu spielen",
-         {{Dolle, KaroNeun, KreuzNeun, KreuzKoenig}, {Dolle, PikDame}, {KreuzAs, HerzNeun}, {PikKoenig}}, nullptr,
+         {{Dolle, KaroNeun, KreuzNeun, KreuzKoenig}, {Dolle, PikDame}, {KreuzAs, HerzNeun}, {PikKoenig}}, {}, nullptr,
          {"AusspielWaehlen:11", "Filter:DolleBlank"}, Dolle},
     };
     for (const Fall& f : faelle) pruefen(f);

@@ -3,35 +3,17 @@
 
 #include <functional>
 
+#include "Fall.h"
 #include "Karten.h"
-#include "Situation.h"
 
 using namespace karten;
 using engine::ParteiKontra;
 using engine::ParteiRe;
+using testhilfe::Fall;
 using testhilfe::Situation;
+using testhilfe::pruefen;
 
 namespace {
-
-struct Fall {
-    const char* name;
-    std::vector<std::vector<int>> haende;
-    std::vector<int> stich;  // from seat 1 on
-    std::function<void(Situation&)> wissen;
-    const char* regel;
-    int karte;
-    std::function<void(Situation&)> vorher = {};
-};
-
-void pruefen(const Fall& f) {
-    Situation s(engine::Normalspiel, f.haende);
-    if (f.vorher) f.vorher(s);
-    for (int code : f.stich) s.spielt(code);
-    s.wissenAufbauen();
-    if (f.wissen) f.wissen(s);
-    EXPECT_EQ(s.waehlt(), f.karte) << f.name;
-    EXPECT_EQ(s.ersteRegel(), f.regel) << f.name;
-}
 
 void hochzeitVon(Situation& s, int sitz, int art) {
     s.spiel.hochzeiter = engine::Sitz(sitz);
@@ -43,13 +25,13 @@ void hochzeitVon(Situation& s, int sitz, int art) {
 TEST(FarbeBedienen, Dritthand) {
     const Fall faelle[] = {
         {"Stich des Feindes mit der Höchsten nehmen", {{KreuzZehn}, {KreuzNeun}, {KreuzAs, KreuzKoenig}, {KreuzKoenig}},
-         {KreuzZehn, KreuzNeun}, nullptr, "Farbe_bedienen:DH0150", KreuzAs},
+         {KreuzZehn, KreuzNeun}, nullptr, {"Farbe_bedienen:DH0150"}, KreuzAs},
         {"Hinterhand hat die Farbe nicht mehr", {{KreuzZehn}, {KreuzNeun}, {KreuzAs, KreuzKoenig}, {KaroNeun, PikAs}},
-         {KreuzZehn, KreuzNeun}, [](Situation& s) { s.frei(4, engine::Kreuz); }, "Farbe_bedienen:DH0160", KreuzKoenig},
+         {KreuzZehn, KreuzNeun}, [](Situation& s) { s.frei(4, engine::Kreuz); }, {"Farbe_bedienen:DH0160"}, KreuzKoenig},
         {"die Höchste sitzt noch draußen", {{KreuzZehn}, {KreuzNeun}, {KreuzKoenig, KreuzNeun}, {KreuzAs}},
-         {KreuzZehn, KreuzNeun}, nullptr, "Farbe_bedienen:DH0247", KreuzNeun},
+         {KreuzZehn, KreuzNeun}, nullptr, {"Farbe_bedienen:DH0247"}, KreuzNeun},
         {"Feind hat gestochen", {{KreuzZehn}, {KaroNeun}, {KreuzAs, KreuzNeun}, {KreuzKoenig}}, {KreuzZehn, KaroNeun},
-         nullptr, "Farbe_bedienen:DH0248", KreuzNeun},
+         nullptr, {"Farbe_bedienen:DH0248"}, KreuzNeun},
     };
     for (const Fall& f : faelle) pruefen(f);
 }
@@ -58,15 +40,15 @@ TEST(FarbeBedienen, Hinterhand) {
     const auto hochzeit1 = [](Situation& s) { hochzeitVon(s, 1, engine::ErsterFehlstich); };
     const Fall faelle[] = {
         {"Stich des Feindes gerade so nehmen", {{KreuzKoenig}, {KreuzNeun}, {KreuzNeun}, {KreuzAs, KreuzZehn, KreuzNeun}},
-         {KreuzKoenig, KreuzNeun, KreuzNeun}, nullptr, "Farbe_bedienen:HH14", KreuzZehn},
+         {KreuzKoenig, KreuzNeun, KreuzNeun}, nullptr, {"Farbe_bedienen:HH14"}, KreuzZehn},
         {"Hochzeit: so hoch wie möglich nehmen und heiraten", {{KreuzKoenig}, {KreuzNeun}, {KreuzNeun}, {KreuzAs, KreuzZehn}},
-         {KreuzKoenig, KreuzNeun, KreuzNeun}, nullptr, "Farbe_bedienen:HH03", KreuzAs, hochzeit1},
+         {KreuzKoenig, KreuzNeun, KreuzNeun}, nullptr, {"Farbe_bedienen:HH03"}, KreuzAs, hochzeit1},
         {"Hochzeit: kann nicht nehmen", {{KreuzAs}, {KreuzNeun}, {KreuzNeun}, {KreuzKoenig, KreuzZehn}},
-         {KreuzAs, KreuzNeun, KreuzNeun}, nullptr, "Farbe_bedienen:HH07", KreuzKoenig, hochzeit1},
+         {KreuzAs, KreuzNeun, KreuzNeun}, nullptr, {"Farbe_bedienen:HH07"}, KreuzKoenig, hochzeit1},
         {"Hochzeit: gestochen", {{KreuzKoenig}, {KaroNeun}, {KreuzNeun}, {KreuzAs, KreuzZehn}}, {KreuzKoenig, KaroNeun, KreuzNeun},
-         nullptr, "Farbe_bedienen:HH08", KreuzZehn, hochzeit1},
+         nullptr, {"Farbe_bedienen:HH08"}, KreuzZehn, hochzeit1},
         {"Hochzeiter gibt dem Wunschpartner eine Hohe", {{KreuzAs}, {KreuzNeun}, {KreuzNeun}, {KreuzZehn, KreuzKoenig}},
-         {KreuzAs, KreuzNeun, KreuzNeun}, [](Situation& s) { s.partei(4, ParteiRe); }, "Farbe_bedienen:HH02", KreuzZehn,
+         {KreuzAs, KreuzNeun, KreuzNeun}, [](Situation& s) { s.partei(4, ParteiRe); }, {"Farbe_bedienen:HH02"}, KreuzZehn,
          [](Situation& s) { hochzeitVon(s, 4, engine::ErsterFehlstich); }},
     };
     for (const Fall& f : faelle) pruefen(f);
@@ -79,22 +61,22 @@ TEST(TrumpfBedienen, Hinterhand) {
     const auto ichRe = [](Situation& s) { s.partei(4, ParteiRe); };
     const Fall faelle[] = {
         {"Feind hält, nicht zu schlagen", {{Dolle}, {KaroNeun}, {KaroKoenig}, {KaroNeun, KaroAs}}, {Dolle, KaroNeun, KaroKoenig},
-         nullptr, "Trumpf_bedienen:HH018", KaroNeun},
+         nullptr, {"Trumpf_bedienen:HH018"}, KaroNeun},
         {"Fuchs opfern oder Dolle aufheben", {{Dolle}, {KaroNeun}, {KaroKoenig}, {KaroAs, Dolle}}, {Dolle, KaroNeun, KaroKoenig},
-         nullptr, "Trumpf_bedienen:HH017", Dolle},
+         nullptr, {"Trumpf_bedienen:HH017"}, Dolle},
         {"Feind hält: gerade so übernehmen", {{KaroDame}, {KaroNeun}, {KaroKoenig}, {KreuzDame, PikDame, KaroNeun}},
-         {KaroDame, KaroNeun, KaroKoenig}, nullptr, "Trumpf_bedienen:HH015", PikDame},
+         {KaroDame, KaroNeun, KaroKoenig}, nullptr, {"Trumpf_bedienen:HH015"}, PikDame},
         {"Feind hält: mit dem Fuchs übernehmen", {{KaroKoenig}, {KaroNeun}, {KaroNeun}, {KaroAs, KaroZehn, PikDame}},
-         {KaroKoenig, KaroNeun, KaroNeun}, nullptr, "Trumpf_bedienen:HH06", KaroAs},
+         {KaroKoenig, KaroNeun, KaroNeun}, nullptr, {"Trumpf_bedienen:HH06"}, KaroAs},
         {"Partei hält: werthöchsten Trumpf dazu", {{PikDame}, {KaroNeun}, {KaroKoenig}, {KaroZehn, KaroNeun, PikDame}},
-         {PikDame, KaroNeun, KaroKoenig}, [](Situation& s) { s.glaubt(4, 1, ParteiKontra); }, "Trumpf_bedienen:HH01",
+         {PikDame, KaroNeun, KaroKoenig}, [](Situation& s) { s.glaubt(4, 1, ParteiKontra); }, {"Trumpf_bedienen:HH01"},
          KaroZehn},
         {"Hochzeiter kann nicht übernehmen: Mitgift", {{Dolle}, {KaroNeun}, {KaroKoenig}, {KaroAs, KaroNeun}},
-         {Dolle, KaroNeun, KaroKoenig}, ichRe, "Trumpf_bedienen:HH016", KaroAs, hochzeit(4)},
+         {Dolle, KaroNeun, KaroKoenig}, ichRe, {"Trumpf_bedienen:HH016"}, KaroAs, hochzeit(4)},
         {"Hochzeiter könnte übernehmen, gibt aber Mitgift", {{KaroDame}, {KaroNeun}, {KaroKoenig}, {KaroZehn, KaroNeun, PikDame}},
-         {KaroDame, KaroNeun, KaroKoenig}, ichRe, "Trumpf_bedienen:HH07", KaroZehn, hochzeit(4)},
+         {KaroDame, KaroNeun, KaroKoenig}, ichRe, {"Trumpf_bedienen:HH07"}, KaroZehn, hochzeit(4)},
         {"übernehmen um zu heiraten", {{KaroDame}, {KaroNeun}, {KaroKoenig}, {KreuzBube, PikDame}},
-         {KaroDame, KaroNeun, KaroKoenig}, nullptr, "Trumpf_bedienen:HH08", PikDame, hochzeit(1)},
+         {KaroDame, KaroNeun, KaroKoenig}, nullptr, {"Trumpf_bedienen:HH08"}, PikDame, hochzeit(1)},
     };
     for (const Fall& f : faelle) pruefen(f);
 }
@@ -104,13 +86,13 @@ TEST(TrumpfBedienen, HinterhandGegenSolisten) {
     const auto solo2 = [](Situation& s) { s.solo(2); };
     const Fall faelle[] = {
         {"Partner hält, Solist kommt nicht in HH", {{PikDame}, {KaroNeun}, {KaroKoenig}, {KaroZehn, KaroNeun}},
-         {PikDame, KaroNeun, KaroKoenig}, solo2, "Trumpf_bedienen:HH05", KaroZehn},
+         {PikDame, KaroNeun, KaroKoenig}, solo2, {"Trumpf_bedienen:HH05"}, KaroZehn},
         {"Partner hält, sonst käme der Solist in HH: übernehmen", {{KaroNeun}, {KaroKoenig}, {PikDame}, {KreuzDame, KaroNeun}},
-         {KaroNeun, KaroKoenig, PikDame}, solo2, "Trumpf_bedienen:HH03", KreuzDame},
+         {KaroNeun, KaroKoenig, PikDame}, solo2, {"Trumpf_bedienen:HH03"}, KreuzDame},
         {"Partner hält, Solist käme in HH, kann nicht übernehmen", {{KaroNeun}, {KaroKoenig}, {PikDame}, {KaroZehn, KaroNeun}},
-         {KaroNeun, KaroKoenig, PikDame}, solo2, "Trumpf_bedienen:HH004", KaroZehn},
+         {KaroNeun, KaroKoenig, PikDame}, solo2, {"Trumpf_bedienen:HH004"}, KaroZehn},
         {"Partner hält, mit dem werthöchsten übernehmen", {{KaroNeun}, {KaroKoenig}, {KaroZehn}, {KaroAs, PikDame}},
-         {KaroNeun, KaroKoenig, KaroZehn}, solo2, "Trumpf_bedienen:HH02", KaroAs},
+         {KaroNeun, KaroKoenig, KaroZehn}, solo2, {"Trumpf_bedienen:HH02"}, KaroAs},
     };
     for (const Fall& f : faelle) pruefen(f);
 }

@@ -3,26 +3,19 @@
 
 #include <functional>
 
+#include "Fall.h"
 #include "Karten.h"
-#include "Situation.h"
 #include "players/Texte.h"
 #include "players/Verfahren.h"
 
 using namespace karten;
 using engine::ParteiKontra;
 using engine::ParteiRe;
+using testhilfe::Fall;
 using testhilfe::Situation;
+using testhilfe::pruefen;
 
 namespace {
-
-struct Fall {
-    const char* name;
-    std::vector<std::vector<int>> haende;  // seat 4 is void in Kreuz and plays last
-    std::vector<int> stich;
-    std::function<void(Situation&)> wissen;
-    std::vector<std::string> regeln;
-    int karte;
-};
 
 void freundHaelt(Situation& s) { s.glaubt(4, 1, ParteiKontra); }
 

@@ -2,6 +2,8 @@
 #include <string>
 #include <vector>
 
+#include "Autoplay.h"
+#include "PartieFortsetzen.h"
 #include "Kommandozeile.h"
 #include "Version.h"
 
@@ -20,6 +22,9 @@ int main(int argc, char** argv) {
         case app::Modus::Version:
             std::cout << "trumpona " << TRUMPONA_VERSION << "\n";
             return 0;
+        case app::Modus::Autoplay:
+            if (!aufruf.ladeDatei.empty()) return app::geladenePartieSpielen(aufruf, std::cout, std::cerr);
+            return app::autoplayStarten(aufruf);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

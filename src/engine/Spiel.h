@@ -22,6 +22,21 @@ enum HochzeitArt : int { KeineHochzeit = 0, ErsterStich = 5, ErsterFehlstich = 6
 // Limit codes: 3 keine 90, 2 keine 60, 1 keine 30, 0 Schwarz.
 enum Limit : int { LimitSchwarz = 0, Keine30 = 1, Keine60 = 2, Keine90 = 3 };
 
+// Who decides for a seat: the person at this machine, a computer player, or a
+// person at another machine (network play).
+enum class Steuerung : int { Mensch = 0, Computer = 1, Netz = 2 };
+
+// Where the game cycle stands; the cycle resumes from any of them.
+enum class Spielphase : int {
+    Geben = 0,      // a deal is needed (from the generator or given from outside)
+    Neugeben,       // redeal checks
+    Vorbehalte,     // reservations in playing order
+    Kartenspiel,    // a seat is to play a card
+    StichVoll,      // the fourth card has fallen; the trick waits to be collected
+    Spielende,      // scored; the next game waits
+    Partieende,     // the Partie is over; a new one waits
+};
+
 // A completed trick, kept for the trick viewer, scoring and the saved game.
 struct StichProtokoll {
     Sitz aufspieler{1};
@@ -58,6 +73,42 @@ struct Sonderpunkt {
     bool operator==(const Sonderpunkt&) const = default;
 };
 
+// The scoring of a finished game.
+struct Spielergebnis {
+    bool gewertet = false;
+    int gewinner = 0;              // party that won the game: 1 Kontra, 2 Re (the solo player counts as Re)
+    int augenRe = 0;
+    int augenKontra = 0;
+    int sticheRe = 0;
+    int sticheKontra = 0;
+    int spielwert = 0;             // value in steps, before the factor
+    int faktor = 1;
+    int sonderpunkteGewinner = 0;
+    int sonderpunkteVerlierer = 0;
+    int ergebnis = 0;              // after factor and special points, before the Bock doubling; may be <= 0
+    bool kalterSchlag = false;
+    bool umkehr = false;           // the loser's special points outweighed the win
+    bool bock = false;             // this game was a Bock game
+    int buchungsPartei = 0;        // party whose seats were booked (after a reversal the loser of the game)
+    int punkteJeSitz = 0;          // points booked to each seat of that party
+    ProSitz<int> punkte;           // points booked to each seat by this game
+    int limitEingehalten = -1;     // -1 no limit, 0 failed, 1 kept
+    bool partieEnde = false;
+    std::string text;              // the text of the end box
+    bool operator==(const Spielergebnis&) const = default;
+};
+
+// Progress of the cycle inside a phase, so a saved or received state resumes exactly.
+struct Ablaufstand {
+    Spielphase phase = Spielphase::Geben;
+    int pruefung = 0;               // redeal check under way: 1 Neunen, 2 Könige, 3 Armut
+    int pruefSitz = 0;              // seat examined in it
+    int vorbehaltGefragt = 0;       // seats asked for their reservation, counted from Vorhand
+    std::optional<Sitz> hochzeitWunsch;
+    int hochzeitWunschArt = KeineHochzeit;
+    bool operator==(const Ablaufstand&) const = default;
+};
+
 // Everything about the series of games.
 struct Partiestand {
     int partieNr = 1;
@@ -65,7 +116,7 @@ struct Partiestand {
     ProSitz<int> punkte;                       // running totals
     std::array<ProSitz<int>, 96> spieltabelle; // points per game with "Abr_Option" 2
     bool bock = false;                         // next game is a Bock game
-    std::optional<Sitz> letzteVorhand;         // Vorhand of the previous game
+    std::optional<Sitz> letzteVorhand;         // Vorhand of the running game, the previous one at the next deal
     std::optional<Sitz> gemerkteVorhand;       // saved seat while a soloist took Vorhand
     bool soloVorhandMarke = false;
     ProSitz<bool> pflichtsoloGespielt;
@@ -77,12 +128,15 @@ struct Spiel {
     // --- Who sits at the table.
     ProSitz<std::string> namen{std::string()};
     ProSitz<int> charakter{2};
+    ProSitz<Steuerung> steuerung = standardSteuerung();
+    bool automatik = false;             // the computer plays seat 1's cards as well
 
     // --- The game.
     Regeln regeln;                      // rules in force for this game
     Deck deck;
     int spieltyp = Normalspiel;
-    Sitz vorhand{1};                    // leads the first trick
+    Sitz vorhand{1};                    // Vorhand of the game; leads the first trick unless a
+                                        // soloist took the lead (see stich.aufspieler)
 
     // Reservations.
     bool solo = false;                  // any declared solo, the Karo-Solo included
@@ -94,6 +148,7 @@ struct Spiel {
     std::optional<Sitz> hochzeitPartner;
     bool hochzeitGeklaert = false;
     std::optional<Sitz> schweineHalter; // holder of both Karo-Asse when Schweine count
+    std::optional<Sitz> supersauHalter; // holder of both trump Asse of a colour solo under "Supersau"
 
     // Parties: the truth, and what cards have revealed.
     ProSitz<int> partei;                // Partei codes
@@ -116,11 +171,26 @@ struct Spiel {
     ProSitz<int> augen;                 // Augen won per seat
     ProSitz<int> stichzahl;             // tricks won per seat
     std::vector<Sonderpunkt> sonderpunkte;
+    std::vector<std::string> spielbericht;  // notes for the game information view
+
+    Spielergebnis ergebnis;
+    Ablaufstand ablauf;
 
     // --- The series.
     Partiestand partie;
 
+    static ProSitz<Steuerung> standardSteuerung() {
+        ProSitz<Steuerung> s(Steuerung::Computer);
+        s[Sitz(1)] = Steuerung::Mensch;
+        return s;
+    }
+
     bool operator==(const Spiel&) const = default;
 };
+
+// The side a seat plays on: Re for Re and the solo player, Kontra otherwise
+// (a seat not yet placed counts with the Kontra party).
+constexpr int seite(int partei) { return partei == ParteiRe || partei == ParteiSolo ? ParteiRe : ParteiKontra; }
+inline int seite(const Spiel& spiel, Sitz s) { return seite(spiel.partei[s]); }
 
 }  // namespace engine

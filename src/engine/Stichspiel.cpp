@@ -108,6 +108,10 @@ Kartenfolge karteSpielen(Spiel& spiel, int pos) {
         ++spiel.schweineGespielt[sitz];
         folge.schweinGespielt = true;
     }
+    if (spiel.supersauHalter == sitz && istFarbspiel(spiel.spieltyp) && karte.code == kartencode(spiel.spieltyp, As)) {
+        karte.staerke = StaerkeJoker;
+        folge.supersau = true;
+    }
     if (karte.code == kartencode(Kreuz, Dame) && !spiel.solo) {
         spiel.parteiMarker[sitz] = 2;
         folge.kreuzDameAufgedeckt = true;

@@ -18,6 +18,7 @@ std::string falscheKarteMeldung(const Spiel& spiel, int pos, bool franzoesisch, 
 struct Kartenfolge {
     bool kreuzDameAufgedeckt = false;  // the player revealed Re
     bool schweinGespielt = false;      // a raised Karo-As fell
+    bool supersau = false;             // a trump As of the Supersau holder was promoted
 };
 
 // Plays the card at `pos` for the seat on turn.

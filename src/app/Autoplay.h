@@ -1,0 +1,30 @@
+#pragma once
+// Headless play: four computer players play N games, Partie after Partie.
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <ostream>
+#include <string>
+
+#include "Kommandozeile.h"
+#include "engine/Regeln.h"
+#include "engine/Spiel.h"
+
+namespace app {
+
+struct Autoplayauftrag {
+    int spiele = 0;
+    std::uint64_t seed = 1;
+    engine::RegelOptionen regeln;
+    std::array<std::string, 4> namen{"Spieler1", "Spieler2", "Spieler3", "Spieler4"};
+    std::optional<engine::Spiel> start;  // a loaded Partie to play on instead of a new one
+};
+
+// Plays the games; writes one JSON line per game to `json` (when given) and the
+// score sheet to `bogen`. Returns the number of rule violations the referee saw.
+int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& bogen);
+
+// The --autoplay mode: reads --rules, opens --json, runs; returns the exit status.
+int autoplayStarten(const Aufruf& aufruf);
+
+}  // namespace app

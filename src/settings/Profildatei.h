@@ -1,0 +1,54 @@
+#pragma once
+// An ini file of the Windows private-profile kind, held as its lines so that a
+// rewrite keeps comments, unknown keys, blank lines and the order of everything.
+// Section and key names compare without case (umlauts included); the first
+// matching key wins. Texts are UTF-8 in memory; bytes() gives Windows-1252 with CRLF.
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace settings {
+
+class Profildatei {
+public:
+    Profildatei() = default;
+    // Any bytes are accepted; see dateiTextDekodieren for the encodings read.
+    static Profildatei ausBytes(std::string_view bytes);
+    std::string bytes() const;
+
+    // The value as the private-profile reader sees it: blanks around it removed,
+    // one pair of enclosing quotes removed. Nothing when the key is missing.
+    std::optional<std::string> wert(std::string_view abschnitt, std::string_view schluessel) const;
+
+    // Replaces the value of an existing key in place (keeping the key's spelling),
+    // or adds the key at the end of its section, or adds the section at the end.
+    // Line breaks in the value become blanks and a NUL ends it, so one key stays one line.
+    void setze(std::string_view abschnitt, std::string_view schluessel, std::string_view wert);
+
+    const std::vector<std::string>& zeilen() const { return zeilen_; }
+
+private:
+    struct Fundstelle {
+        std::optional<std::size_t> schluesselZeile;
+        std::optional<std::size_t> abschnittKopf;  // header line of the section's first occurrence
+    };
+    Fundstelle suche(std::string_view abschnitt, std::string_view schluessel) const;
+
+    std::vector<std::string> zeilen_;
+};
+
+// GetPrivateProfileString: the value or the default, cut at the first NUL and to
+// the buffer size less one for the terminating NUL.
+std::string profilText(const Profildatei& datei, std::string_view abschnitt, std::string_view schluessel,
+                       std::string_view standard, std::size_t puffergroesse);
+
+// GetPrivateProfileInt: the default for a missing or empty key; otherwise the
+// leading decimal (or 0x hexadecimal) number of the text, 0 when there is none.
+int profilZahl(const Profildatei& datei, std::string_view abschnitt, std::string_view schluessel, int standard);
+
+// The leading number of a text the way the settings store turns colour strings
+// into numbers: blanks, sign and digits; 0 when there is none.
+long long fuehrendeZahl(std::string_view text);
+
+}  // namespace settings

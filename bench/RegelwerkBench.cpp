@@ -34,27 +34,29 @@ private:
     std::vector<Stellung>& stellungen_;
 };
 
-std::vector<Stellung>& stellungen(engine::Zufallsquelle& zufall) {
-    static std::vector<Stellung> alle = [&] {
+// The knowledge copied into each position keeps drawing from this source.
+engine::SeedZufall& wissensZufall() {
+    static engine::SeedZufall zufall(5);
+    return zufall;
+}
+
+std::vector<Stellung>& stellungen() {
+    static std::vector<Stellung> alle = [] {
         std::vector<Stellung> v;
-        players::Tischwissen wissen(zufall);
-        players::Regelwerk regelwerk(wissen, zufall);
+        testhilfe::Testtisch tisch(900);
+        players::Tischwissen wissen(wissensZufall());
+        tisch.ablauf.beobachterHinzufuegen(&wissen);
+        players::Regelwerk regelwerk(wissen, wissensZufall());
         Mitschreiber mitschreiber(wissen, regelwerk, v);
-        testhilfe::Testtisch tisch;
-        tisch.beobachter.push_back(&wissen);
-        tisch.spieler.fill(&mitschreiber);
-        for (std::uint64_t n = 0; n < 50; ++n) {
-            tisch.geben(900 + n, engine::Sitz(static_cast<int>(n % 4) + 1));
-            tisch.spielen();
-        }
+        tisch.spielen(50, mitschreiber);
         return v;
     }();
     return alle;
 }
 
 void KarteWaehlen(benchmark::State& state) {
-    engine::SeedZufall zufall(5);
-    auto& alle = stellungen(zufall);
+    engine::SeedZufall& zufall = wissensZufall();
+    auto& alle = stellungen();
     std::size_t i = 0;
     for (auto _ : state) {
         Stellung& s = alle[i];

@@ -5,6 +5,7 @@
 #include "Autoplay.h"
 #include "PartieFortsetzen.h"
 #include "Kommandozeile.h"
+#include "Turnier.h"
 #include "Version.h"
 
 int main(int argc, char** argv) {
@@ -25,6 +26,7 @@ int main(int argc, char** argv) {
         case app::Modus::Autoplay:
             if (!aufruf.ladeDatei.empty()) return app::geladenePartieSpielen(aufruf, std::cout, std::cerr);
             return app::autoplayStarten(aufruf);
+        case app::Modus::Turnier: return app::turnierStarten(aufruf);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

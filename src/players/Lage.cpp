@@ -60,6 +60,10 @@ int Lage::staerke(int pos) const {
         const Sitz besitzer = spiel.deck.besitzer(pos);
         if (besitzer == *spiel.schweineHalter && (besitzer == ich || schweinOeffentlich())) return StaerkeJoker;
     }
+    // The own trump Asse of a Supersau are promoted when played.
+    if (k.status == InHand && spiel.supersauHalter == ich && istFarbspiel(trumpf) && k.code == kartencode(trumpf, As) &&
+        spiel.deck.besitzer(pos) == ich)
+        return StaerkeJoker;
     return k.staerke;
 }
 

@@ -86,23 +86,27 @@ int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& b
     return schiedsrichter.fehlerAnzahl() + bilanz.abgelehnt;
 }
 
+bool laufVorbereiten(const Aufruf& aufruf, std::uint64_t& seed, std::optional<settings::Einstellungen>& optionen) {
+    if (aufruf.seed) {
+        seed = *aufruf.seed;
+    } else {
+        seed = std::random_device{}();
+        std::cerr << "Startwert: " << seed << "\n";
+    }
+    if (aufruf.regelDatei.empty()) return true;
+    std::string fehler;
+    optionen = optionenLesen(aufruf.regelDatei, fehler);
+    if (!optionen) std::cerr << "trumpona: " << fehler << "\n";
+    return optionen.has_value();
+}
+
 int autoplayStarten(const Aufruf& aufruf) {
     Autoplayauftrag auftrag;
     auftrag.spiele = aufruf.anzahl;
     auftrag.statistik = aufruf.statistik;
-    if (aufruf.seed) {
-        auftrag.seed = *aufruf.seed;
-    } else {
-        auftrag.seed = std::random_device{}();
-        std::cerr << "Startwert: " << auftrag.seed << "\n";
-    }
-    if (!aufruf.regelDatei.empty()) {
-        std::string fehler;
-        const auto optionen = optionenLesen(aufruf.regelDatei, fehler);
-        if (!optionen) {
-            std::cerr << "trumpona: " << fehler << "\n";
-            return 2;
-        }
+    std::optional<settings::Einstellungen> optionen;
+    if (!laufVorbereiten(aufruf, auftrag.seed, optionen)) return 2;
+    if (optionen) {
         auftrag.regeln = optionen->regeln;
         auftrag.namen = optionen->namen;
     }

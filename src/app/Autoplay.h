@@ -9,6 +9,7 @@
 #include "Kommandozeile.h"
 #include "engine/Regeln.h"
 #include "engine/Spiel.h"
+#include "settings/Einstellungen.h"
 
 namespace app {
 
@@ -24,6 +25,11 @@ struct Autoplayauftrag {
 // Plays the games; writes one JSON line per game to `json` (when given) and the
 // score sheet (and with `statistik` the rules that fired) to `bogen`. Returns the number of rule violations the referee saw.
 int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& bogen);
+
+// For a headless run: the seed (drawn and shown on stderr when none is given) and,
+// with --rules, the options read from that file. False, with the message on stderr,
+// when the file cannot be read.
+bool laufVorbereiten(const Aufruf& aufruf, std::uint64_t& seed, std::optional<settings::Einstellungen>& optionen);
 
 // The --autoplay mode: reads --rules, opens --json, runs; returns the exit status.
 int autoplayStarten(const Aufruf& aufruf);

@@ -1,12 +1,12 @@
 #include "Turnier.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <iostream>
-#include <random>
 
+#include "Autoplay.h"
 #include "Computertisch.h"
-#include "RegelDatei.h"
 #include "engine/Selbstspiel.h"
 #include "engine/Spielablauf.h"
 #include "engine/Zufall.h"
@@ -102,21 +102,9 @@ int turnierStarten(const Aufruf& aufruf) {
         std::cerr << "\n";
         return 2;
     }
-    if (aufruf.seed) {
-        auftrag.seed = *aufruf.seed;
-    } else {
-        auftrag.seed = std::random_device{}();
-        std::cerr << "Startwert: " << auftrag.seed << "\n";
-    }
-    if (!aufruf.regelDatei.empty()) {
-        std::string fehler;
-        const auto optionen = optionenLesen(aufruf.regelDatei, fehler);
-        if (!optionen) {
-            std::cerr << "trumpona: " << fehler << "\n";
-            return 2;
-        }
-        auftrag.regeln = optionen->regeln;
-    }
+    std::optional<settings::Einstellungen> optionen;
+    if (!laufVorbereiten(aufruf, auftrag.seed, optionen)) return 2;
+    if (optionen) auftrag.regeln = optionen->regeln;
     players::Regelstatistik statistik;
     const Turnierergebnis ergebnis = turnier(auftrag, aufruf.statistik ? &statistik : nullptr);
     if (aufruf.statistik) std::cout << statistik.bericht();

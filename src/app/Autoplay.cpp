@@ -7,13 +7,14 @@
 #include <random>
 #include <vector>
 
+#include "Computertisch.h"
 #include "RegelDatei.h"
 #include "SpielJson.h"
 #include "engine/Schiedsrichter.h"
 #include "engine/Selbstspiel.h"
 #include "engine/Spielablauf.h"
 #include "engine/Zufall.h"
-#include "players/EinfacheSpieler.h"
+#include "players/Regelstatistik.h"
 
 namespace app {
 
@@ -64,8 +65,10 @@ int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& b
     if (auftrag.start) ablauf.fortsetzen();
     else ablauf.neuePartie();
 
-    players::KleinsteKarte spieler;
-    engine::ProSitz<engine::Entscheider*> entscheider(&spieler);
+    players::Regelstatistik statistik;
+    const Computertisch tisch(ablauf, zufall, {"regelwerk", "regelwerk", "regelwerk", "regelwerk"},
+                              auftrag.statistik ? &statistik : nullptr);
+    const engine::ProSitz<engine::Entscheider*> entscheider = tisch.entscheider();
     std::vector<Partiezeile> zeilen;
     engine::Selbstspiel selbstspiel(ablauf, entscheider);
     const auto bilanz = selbstspiel.spielen(auftrag.spiele, [&](const engine::Spiel& s) {
@@ -77,27 +80,33 @@ int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& b
         zeilen.back().stand = s.partie.punkte;
     });
     bogenSchreiben(bogen, zeilen, spiel, auftrag);
+    if (auftrag.statistik) bogen << statistik.bericht();
     for (const std::string& f : schiedsrichter.fehler()) bogen << "Regelverstoß: " << f << "\n";
     for (const std::string& g : bilanz.gruende) bogen << "Abgelehnt: " << g << "\n";
     return schiedsrichter.fehlerAnzahl() + bilanz.abgelehnt;
 }
 
+bool laufVorbereiten(const Aufruf& aufruf, std::uint64_t& seed, std::optional<settings::Einstellungen>& optionen) {
+    if (aufruf.seed) {
+        seed = *aufruf.seed;
+    } else {
+        seed = std::random_device{}();
+        std::cerr << "Startwert: " << seed << "\n";
+    }
+    if (aufruf.regelDatei.empty()) return true;
+    std::string fehler;
+    optionen = optionenLesen(aufruf.regelDatei, fehler);
+    if (!optionen) std::cerr << "trumpona: " << fehler << "\n";
+    return optionen.has_value();
+}
+
 int autoplayStarten(const Aufruf& aufruf) {
     Autoplayauftrag auftrag;
     auftrag.spiele = aufruf.anzahl;
-    if (aufruf.seed) {
-        auftrag.seed = *aufruf.seed;
-    } else {
-        auftrag.seed = std::random_device{}();
-        std::cerr << "Startwert: " << auftrag.seed << "\n";
-    }
-    if (!aufruf.regelDatei.empty()) {
-        std::string fehler;
-        const auto optionen = optionenLesen(aufruf.regelDatei, fehler);
-        if (!optionen) {
-            std::cerr << "trumpona: " << fehler << "\n";
-            return 2;
-        }
+    auftrag.statistik = aufruf.statistik;
+    std::optional<settings::Einstellungen> optionen;
+    if (!laufVorbereiten(aufruf, auftrag.seed, optionen)) return 2;
+    if (optionen) {
         auftrag.regeln = optionen->regeln;
         auftrag.namen = optionen->namen;
     }

@@ -9,6 +9,7 @@
 #include "Kommandozeile.h"
 #include "engine/Regeln.h"
 #include "engine/Spiel.h"
+#include "settings/Einstellungen.h"
 
 namespace app {
 
@@ -18,11 +19,17 @@ struct Autoplayauftrag {
     engine::RegelOptionen regeln;
     std::array<std::string, 4> namen{"Spieler1", "Spieler2", "Spieler3", "Spieler4"};
     std::optional<engine::Spiel> start;  // a loaded Partie to play on instead of a new one
+    bool statistik = false;              // count the rule book's reasoning (--stats)
 };
 
 // Plays the games; writes one JSON line per game to `json` (when given) and the
-// score sheet to `bogen`. Returns the number of rule violations the referee saw.
+// score sheet (and with `statistik` the rules that fired) to `bogen`. Returns the number of rule violations the referee saw.
 int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& bogen);
+
+// For a headless run: the seed (drawn and shown on stderr when none is given) and,
+// with --rules, the options read from that file. False, with the message on stderr,
+// when the file cannot be read.
+bool laufVorbereiten(const Aufruf& aufruf, std::uint64_t& seed, std::optional<settings::Einstellungen>& optionen);
 
 // The --autoplay mode: reads --rules, opens --json, runs; returns the exit status.
 int autoplayStarten(const Aufruf& aufruf);

@@ -28,6 +28,7 @@ int geladenePartieSpielen(const Aufruf& aufruf, std::ostream& aus, std::ostream&
     auftrag.spiele = aufruf.anzahl;
     auftrag.seed = aufruf.seed.value_or(std::random_device{}());
     auftrag.regeln = stand.optionen;
+    auftrag.statistik = aufruf.statistik;
     if (!aufruf.regelDatei.empty()) {
         std::string text;
         const auto optionen = optionenLesen(aufruf.regelDatei, text);

@@ -7,6 +7,7 @@
 #include "Fensterstart.h"
 #include "Kommandozeile.h"
 #include "Screenshot.h"
+#include "Turnier.h"
 #include "Version.h"
 
 int main(int argc, char** argv) {
@@ -31,6 +32,7 @@ int main(int argc, char** argv) {
             return app::spielStarten(aufruf, argc, argv);
         case app::Modus::Screenshot:
             return app::screenshotSchreiben(aufruf, argc, argv);
+        case app::Modus::Turnier: return app::turnierStarten(aufruf);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

@@ -1,0 +1,116 @@
+#include "Turnier.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <iostream>
+
+#include "Autoplay.h"
+#include "Computertisch.h"
+#include "engine/Selbstspiel.h"
+#include "engine/Spielablauf.h"
+#include "engine/Zufall.h"
+#include "players/Regelstatistik.h"
+#include "players/Spielerarten.h"
+
+namespace app {
+
+using engine::Sitz;
+
+namespace {
+
+// Deal d of a tournament: the same in both games of its pair.
+std::uint64_t dealSeed(std::uint64_t seed, int deal) {
+    engine::SeedZufall z(seed ^ (0x9e3779b97f4a7c15ULL * static_cast<std::uint64_t>(deal + 1)));
+    return z.naechste64();
+}
+
+// One game on a fresh table: kind `ungerade` at seats 1 and 3, `gerade` at 2 and 4.
+// Returns the points of an odd seat minus those of an even seat.
+double spielen(const Turnierauftrag& auftrag, std::uint64_t seed, const std::string& ungerade,
+               const std::string& gerade, players::Regelstatistik* statistik, int& abgelehnt) {
+    engine::Spiel spiel;
+    for (const Sitz s : engine::alleSitze) {
+        spiel.namen[s] = "Spieler" + std::to_string(s.nr());
+        spiel.steuerung[s] = engine::Steuerung::Computer;
+    }
+    engine::SeedZufall zufall(seed);
+    engine::Spielablauf ablauf(spiel, zufall);
+    ablauf.regelOptionenSetzen(auftrag.regeln);
+    const Computertisch tisch(ablauf, zufall, {ungerade, gerade, ungerade, gerade}, statistik);
+    ablauf.neuePartie();
+    engine::Selbstspiel selbstspiel(ablauf, tisch.entscheider());
+    abgelehnt += selbstspiel.spielen(1).abgelehnt;
+    const auto& punkte = spiel.ergebnis.punkte;
+    return (punkte[Sitz(1)] + punkte[Sitz(3)]) / 2.0 - (punkte[Sitz(2)] + punkte[Sitz(4)]) / 2.0;
+}
+
+bool artBekannt(const std::string& art) {
+    for (const std::string_view name : players::spielerarten())
+        if (name == art) return true;
+    return false;
+}
+
+}  // namespace
+
+Mittelwert mittelwert(const std::vector<double>& werte) {
+    Mittelwert m;
+    if (werte.empty()) return m;
+    const double n = static_cast<double>(werte.size());
+    for (double w : werte) m.mittel += w;
+    m.mittel /= n;
+    if (werte.size() < 2) return m;
+    double quadrate = 0;
+    for (double w : werte) quadrate += (w - m.mittel) * (w - m.mittel);
+    m.halbbreite = 1.96 * std::sqrt(quadrate / (n - 1) / n);
+    return m;
+}
+
+Turnierergebnis turnier(const Turnierauftrag& auftrag, players::Regelstatistik* statistik) {
+    Turnierergebnis ergebnis;
+    std::vector<double> paare;
+    paare.reserve(static_cast<std::size_t>(std::max(auftrag.deals, 0)));
+    for (int d = 0; d < auftrag.deals; ++d) {
+        const std::uint64_t seed = dealSeed(auftrag.seed, d);
+        const double hin = spielen(auftrag, seed, auftrag.a, auftrag.b, statistik, ergebnis.abgelehnt);
+        const double rueck = -spielen(auftrag, seed, auftrag.b, auftrag.a, statistik, ergebnis.abgelehnt);
+        // The two games of a deal form one pair, so the luck of the cards cancels out.
+        paare.push_back((hin + rueck) / 2.0);
+        ergebnis.spiele += 2;
+    }
+    const Mittelwert m = mittelwert(paare);
+    ergebnis.diff = m.mittel;
+    ergebnis.ci95 = m.halbbreite;
+    return ergebnis;
+}
+
+std::string turnierZeile(const Turnierauftrag& auftrag, const Turnierergebnis& e) {
+    char zahlen[80];
+    std::snprintf(zahlen, sizeof zahlen, " games=%d diff=%.4f ci95=%.4f", e.spiele, e.diff, e.ci95);
+    return "A=" + auftrag.a + " B=" + auftrag.b + zahlen;
+}
+
+int turnierStarten(const Aufruf& aufruf) {
+    Turnierauftrag auftrag;
+    auftrag.deals = aufruf.anzahl;
+    auftrag.a = aufruf.spieler.size() > 0 ? aufruf.spieler[0] : "";
+    auftrag.b = aufruf.spieler.size() > 1 ? aufruf.spieler[1] : "";
+    for (const std::string& art : {auftrag.a, auftrag.b}) {
+        if (artBekannt(art)) continue;
+        std::cerr << "trumpona: unbekannte Spielerart \"" << art << "\"; bekannt sind:";
+        for (const std::string_view name : players::spielerarten()) std::cerr << ' ' << name;
+        std::cerr << "\n";
+        return 2;
+    }
+    std::optional<settings::Einstellungen> optionen;
+    if (!laufVorbereiten(aufruf, auftrag.seed, optionen)) return 2;
+    if (optionen) auftrag.regeln = optionen->regeln;
+    players::Regelstatistik statistik;
+    const Turnierergebnis ergebnis = turnier(auftrag, aufruf.statistik ? &statistik : nullptr);
+    if (aufruf.statistik) std::cout << statistik.bericht();
+    if (ergebnis.abgelehnt > 0) std::cout << "Abgelehnte Antworten: " << ergebnis.abgelehnt << "\n";
+    std::cout << turnierZeile(auftrag, ergebnis) << "\n";
+    return ergebnis.abgelehnt == 0 ? 0 : 1;
+}
+
+}  // namespace app

@@ -1,0 +1,291 @@
+#include "Lage.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include "engine/Stichspiel.h"
+
+namespace players {
+
+using namespace engine;
+
+namespace {
+constexpr int KaroAs = kartencode(Karo, As);
+constexpr int DolleCode = kartencode(Herz, Zehn);
+constexpr int KreuzBube = kartencode(Kreuz, Bube);
+
+std::size_t fi(int farbe) { return static_cast<std::size_t>(farbe); }
+
+// The first card of `karten` that is smallest by `schluessel`.
+template <class F>
+int kleinsteNach(const std::vector<int>& karten, F schluessel) {
+    int beste = 0;
+    for (int p : karten)
+        if (beste == 0 || schluessel(p) < schluessel(beste)) beste = p;
+    return beste;
+}
+}  // namespace
+
+Lage::Lage(const Spiel& s, const Tischwissen& w, Sitz sitz, const Melder& m, Zufallsquelle& z)
+    : spiel(s), wissen(w), ich(sitz), melder(m), zufall(z), trumpf(s.spieltyp) {
+    const Deck& deck = spiel.deck;
+    for (int p = deck.erstePosition(ich); p <= deck.letztePosition(ich); ++p) {
+        if (deck[p].status != InHand) continue;
+        hand.push_back(p);
+        if (karteErlaubt(spiel, ich, p)) erlaubt.push_back(p);
+    }
+    werteBerechnen();
+
+    const Stich& stich = spiel.stich;
+    anzahl = stich.anzahl < 4 ? stich.anzahl : 0;
+    if (anzahl > 0) {
+        zuBedienen = stich.farbeZuBedienen;
+        trumpfGefuehrt = zuBedienen == trumpf;
+        fuehrPlatz = fuehrenderPlatz(deck, stich, anzahl, trumpf, spiel.regeln.herzZehn);
+        gewinner = stich.sitzAn(fuehrPlatz);
+        gewinnerKarte = stich.karte(fuehrPlatz);
+        gestochen = !trumpfGefuehrt && deck[gewinnerKarte].farbe == trumpf;
+        for (int i = 1; i <= anzahl; ++i) augenImStich += deck[stich.karte(i)].augen;
+    }
+}
+
+bool Lage::schweinOeffentlich() const {
+    const auto& halter = spiel.schweineHalter;
+    return halter && (spiel.regeln.schweineAnsagen || *halter == Sitz(1) || spiel.schweineGespielt[*halter] > 0);
+}
+
+int Lage::staerke(int pos) const {
+    const auto& k = spiel.deck[pos];
+    if (k.status == InHand && k.code == KaroAs && trumpf == Normalspiel && spiel.schweineHalter) {
+        const Sitz besitzer = spiel.deck.besitzer(pos);
+        if (besitzer == *spiel.schweineHalter && (besitzer == ich || schweinOeffentlich())) return StaerkeJoker;
+    }
+    // The own trump Asse of a Supersau are promoted when played.
+    if (k.status == InHand && spiel.supersauHalter == ich && istFarbspiel(trumpf) && k.code == kartencode(trumpf, As) &&
+        spiel.deck.besitzer(pos) == ich)
+        return StaerkeJoker;
+    return k.staerke;
+}
+
+bool Lage::istDolle(int pos) const { return karte(pos).code == DolleCode && istTrumpf(pos); }
+bool Lage::istSchwein(int pos) const {
+    return karte(pos).code == KaroAs && istTrumpf(pos) && staerke(pos) == StaerkeJoker;
+}
+bool Lage::istFuchs(int pos) const {
+    return karte(pos).code == KaroAs && istTrumpf(pos) && trumpf == Normalspiel && !istSchwein(pos);
+}
+bool Lage::istKarlchen(int pos) const { return karte(pos).code == KreuzBube && istTrumpf(pos); }
+bool Lage::istFigur(int pos) const { return karte(pos).wert == WertDame || karte(pos).wert == WertBube; }
+
+void Lage::werteBerechnen() {
+    const Deck& deck = spiel.deck;
+    for (int p = 1; p <= deck.kartenanzahl(); ++p) {
+        const auto& k = deck[p];
+        if (k.status != InHand) continue;
+        const bool meine = deck.besitzer(p) == ich;
+        const int s = staerke(p);
+        const auto f = fi(k.farbe);
+        if (k.farbe == trumpf) {
+            ++werte.truempfeImSpiel;
+            werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterTrumpfImSpiel, s);
+            if (meine) {
+                ++werte.eigeneTruempfe;
+                werte.hoechsterEigenerTrumpf = std::max(werte.hoechsterEigenerTrumpf, s);
+            } else {
+                ++werte.fremdeTruempfe;
+                werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, s);
+            }
+        }
+        werte.hoechsteOffene[f] = std::max(werte.hoechsteOffene[f], s);
+        if (meine) {
+            ++werte.eigeneAnzahl[f];
+            if (werte.eigeneBeste[f] == 0 || s > staerke(werte.eigeneBeste[f])) werte.eigeneBeste[f] = p;
+        } else {
+            ++werte.fremdeAnzahl[f];
+            werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], s);
+            if (istDolle(p)) ++werte.fremdeDollen;
+            if (istJoker(k.code)) werte.jokerFremd = true;
+        }
+    }
+    if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {
+        int beste = 0;
+        int besteSumme = 0;
+        for (int f = 1; f <= 4; ++f) {
+            int summe = 0;
+            for (int p : hand)
+                if (karte(p).farbe == f) summe += staerke(p);
+            const int n = werte.eigeneAnzahl[fi(f)];
+            if (n > 0 && (beste == 0 || n > werte.eigeneAnzahl[fi(beste)] ||
+                          (n == werte.eigeneAnzahl[fi(beste)] && summe > besteSumme))) {
+                beste = f;
+                besteSumme = summe;
+            }
+        }
+        werte.langeFarbe = beste;
+    }
+}
+
+std::vector<Sitz> Lage::nachMir() const {
+    std::vector<Sitz> v;
+    for (int i = anzahl + 2; i <= 4; ++i) v.push_back(spiel.stich.aufspieler.plus(i - 1));
+    return v;
+}
+
+bool Lage::schlaegt(int pos) const {
+    if (anzahl == 0) return true;
+    const auto& bester = karte(gewinnerKarte);
+    const int f = karte(pos).farbe;
+    const int s = staerke(pos);
+    if (f == trumpf && bester.farbe != trumpf) return true;
+    if (f != bester.farbe) return false;
+    if (s > bester.staerke) return true;
+    return s == bester.staerke && s == StaerkeDolle && !spiel.regeln.herzZehn;
+}
+
+bool Lage::kannSchlagen() const {
+    return std::any_of(erlaubt.begin(), erlaubt.end(), [this](int p) { return schlaegt(p); });
+}
+
+bool Lage::hoehereDraussen(int farbe, int s) const {
+    if (farbe == trumpf) {
+        if (werte.hoechsterFremderTrumpf > s) return true;
+        return s == StaerkeDolle && !spiel.regeln.herzZehn && werte.fremdeDollen > 0;
+    }
+    return werte.hoechsteFremde[fi(farbe)] > s;
+}
+
+bool Lage::hoechsteLiegt() const {
+    int best = 0;
+    for (int i = 1; i <= anzahl; ++i) {
+        const auto& k = karte(spiel.stich.karte(i));
+        if (k.farbe == zuBedienen) best = std::max(best, k.staerke);
+    }
+    return anzahl > 0 && !hoehereDraussen(zuBedienen, best);
+}
+
+bool Lage::kannUebernehmen(Sitz x) const {
+    return kannUebernehmen(x, karte(gewinnerKarte).farbe, karte(gewinnerKarte).staerke);
+}
+
+bool Lage::kannUebernehmen(Sitz x, int farbe, int s) const {
+    // A seat not known void is expected to follow suit.
+    if (farbe == trumpf) {
+        if (ohneTrumpf(x)) return false;
+        if (!trumpfGefuehrt && !frei(x, zuBedienen)) return false;
+        return hoehereDraussen(trumpf, s);
+    }
+    if (!frei(x, zuBedienen)) return hoehereDraussen(zuBedienen, s);
+    return !ohneTrumpf(x);
+}
+
+bool Lage::nagelt(int pos) const {
+    if (!schlaegt(pos)) return false;
+    for (const Sitz x : nachMir())
+        if (kannUebernehmen(x, karte(pos).farbe, staerke(pos))) return false;
+    return true;
+}
+
+bool Lage::genagelt() const {
+    for (const Sitz x : nachMir())
+        if (kannUebernehmen(x)) return false;
+    return true;
+}
+
+bool Lage::freund(Sitz x) const {
+    if (x == ich) return true;
+    const int e = eigenePartei();
+    const int g = glaube(x);
+    if (e == ParteiUnbekannt || g == ParteiUnbekannt || e == ParteiSolo || g == ParteiSolo) return false;
+    return (e == ParteiKontra) == (g == ParteiKontra);
+}
+
+bool Lage::frei(Sitz x, int farbe) const {
+    return wissen.farbeFrei[x][fi(farbe)][ich] || werte.fremdeAnzahl[fi(farbe)] == 0;
+}
+
+bool Lage::ohneTrumpf(Sitz x) const { return wissen.keinTrumpf[x][ich] || werte.fremdeTruempfe == 0; }
+
+std::optional<Sitz> Lage::solist() const {
+    if (spiel.solo && spiel.solist) return spiel.solist;
+    for (const Sitz x : alleSitze)
+        if (glaube(x) == ParteiSolo) return x;
+    return std::nullopt;
+}
+
+bool Lage::hochzeitsKlaerstich() const {
+    if (!spiel.hochzeiter || spiel.hochzeitGeklaert || anzahl == 0) return false;
+    switch (spiel.hochzeitArt) {
+        case ErsterStich: return true;
+        case ErsterFehlstich: return !trumpfGefuehrt;
+        case ErsterTrumpfstich: return trumpfGefuehrt;
+        default: return false;
+    }
+}
+
+int Lage::kleinsteAbwurf() const {
+    const auto farbkarten = auswahl([this](int p) { return !istTrumpf(p); });
+    if (farbkarten.empty()) return praktWertkleinsterTrumpf();
+    // Few Augen first; of equals the shorter suit, so it runs out sooner.
+    return kleinsteNach(farbkarten, [this](int p) {
+        return std::make_tuple(augen(p), anzahlInHand(karte(p).farbe), staerke(p));
+    });
+}
+
+int Lage::hoechsteAbwurf() const {
+    const auto farbkarten = auswahl([this](int p) { return !istTrumpf(p); });
+    if (farbkarten.empty()) return praktWerthoechsterTrumpf();
+    // A Zehn before an As of the same worth class: the As may still win its own trick.
+    return kleinsteNach(farbkarten, [this](int p) {
+        return std::make_tuple(-std::min(augen(p), 10), staerke(p), anzahlInHand(karte(p).farbe));
+    });
+}
+
+int Lage::kleinsteDerFarbe(int farbe) const {
+    return kleinsteNach(auswahl([&](int p) { return karte(p).farbe == farbe; }),
+                        [this](int p) { return std::make_tuple(staerke(p), augen(p)); });
+}
+
+int Lage::hoechsteDerFarbe(int farbe) const {
+    return kleinsteNach(auswahl([&](int p) { return karte(p).farbe == farbe; }),
+                        [this](int p) { return std::make_tuple(-staerke(p), -augen(p)); });
+}
+
+int Lage::kleinsterSchlagender() const {
+    return kleinsteNach(auswahl([this](int p) { return schlaegt(p); }),
+                        [this](int p) { return std::make_tuple(staerke(p), augen(p)); });
+}
+
+int Lage::praktWertkleinsterTrumpf() const {
+    return kleinsteNach(auswahl([this](int p) { return istTrumpf(p); }),
+                        [this](int p) { return std::make_tuple(istZaehler(p), staerke(p)); });
+}
+
+int Lage::praktWerthoechsterTrumpf() const {
+    const auto klein = auswahl([this](int p) {
+        return istTrumpf(p) && !istFigur(p) && !istDolle(p) && !istSchwein(p) && !istJoker(karte(p).code);
+    });
+    if (!klein.empty())
+        return kleinsteNach(klein, [this](int p) { return std::make_tuple(-augen(p), staerke(p)); });
+    return kleinsteNach(auswahl([this](int p) { return istTrumpf(p); }), [this](int p) { return staerke(p); });
+}
+
+int Lage::hoechsterTrumpf() const {
+    return kleinsteNach(auswahl([this](int p) { return istTrumpf(p); }), [this](int p) { return -staerke(p); });
+}
+
+int Lage::zufaellige(const std::vector<int>& karten) const {
+    if (karten.empty()) return 0;
+    return karten[static_cast<std::size_t>(zufall.ganzzahl(static_cast<int>(karten.size())))];
+}
+
+std::vector<int> Lage::sortierteHand() const {
+    std::vector<int> v = hand;
+    auto schluessel = [this](int p) {
+        if (istTrumpf(p)) return std::make_tuple(0, -staerke(p));
+        return std::make_tuple(5 - karte(p).farbe, -staerke(p));
+    };
+    std::stable_sort(v.begin(), v.end(), [&](int a, int b) { return schluessel(a) < schluessel(b); });
+    return v;
+}
+
+}  // namespace players

@@ -29,6 +29,7 @@ public:
     bool kartenwahl() const { return kartenwahl_; }
     // ParteiBild per seat, 0 for none.
     void setzeParteibilder(const engine::ProSitz<int>& bilder);
+    const engine::ProSitz<int>& parteibilder() const { return parteibilder_; }
     void setzeStichSichtbar(bool sichtbar);
 
     // Card movement: a card just played flies from its hand to the trick; a complete

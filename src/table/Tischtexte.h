@@ -31,6 +31,10 @@ inline constexpr char ParteiRe[] = "Re";
 inline constexpr char ParteiKontra[] = "Kontra";
 inline constexpr char ParteiUnbekannt[] = "?";
 
+// The computer players' reasoning boxes.
+inline constexpr char UeberlegungVon[] = "Überlegung von ";
+inline constexpr char RegelKennung[] = "Regel ";
+
 // The score sheet.
 inline constexpr char PartieendeBei[] = "Partieende bei Überschreiten von ";
 inline constexpr char Punkt[] = " Punkt";

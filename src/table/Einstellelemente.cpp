@@ -64,7 +64,7 @@ namespace {
 using namespace engine;
 constexpr std::array<int, 5> Vorschaukarten{kartencode(Kreuz, Dame), kartencode(Herz, Zehn), kartencode(Karo, As),
                                             kartencode(Pik, Koenig), kartencode(Herz, Bube)};
-constexpr int Kartenhoehe = 110;
+constexpr int Kartenhoehe = 92;
 }  // namespace
 
 Kartenvorschau::Kartenvorschau(QWidget* parent) : QWidget(parent), bilder_(std::make_unique<Kartenbilder>()) {

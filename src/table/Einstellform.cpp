@@ -55,6 +55,13 @@ std::vector<std::pair<int, QString>> stichfristen() {
     return werte;
 }
 
+// Options that depend on the one above them stand a little to the right.
+QVBoxLayout* eingerueckt() {
+    auto* spalte = new QVBoxLayout;
+    spalte->setContentsMargins(16, 0, 0, 0);
+    return spalte;
+}
+
 QGroupBox* gruppe(const char* titel, QWidget* eltern) { return new QGroupBox(t(titel), eltern); }
 
 QLabel* hinweis(const char* text, QWidget* eltern) {
@@ -224,12 +231,10 @@ QWidget* Einstellform::regelnSeite() {
     auto* solo = gruppe(Solospiele, seite);
     auto* sspalte = new QVBoxLayout(solo);
     sspalte->addWidget(schalter("Solis", Solis, solo));
-    auto* einzug = new QVBoxLayout;
-    einzug->setContentsMargins(16, 0, 0, 0);
+    auto* einzug = eingerueckt();
     einzug->addWidget(schalter("Solo", Pflichtsolo, solo));
     einzug->addWidget(schalter("Vh_Solo", VhSolo, solo));
-    auto* nachSolo = new QVBoxLayout;
-    nachSolo->setContentsMargins(16, 0, 0, 0);
+    auto* nachSolo = eingerueckt();
     nachSolo->addWidget(schalter("Hh_n_Solo", HhNSolo, solo));
     einzug->addLayout(nachSolo);
     einzug->addWidget(schalter("DaBu_Solo", DabuSolo, solo));
@@ -243,21 +248,10 @@ QWidget* Einstellform::regelnSeite() {
     nspalte->addWidget(schalter("Armut", Armut, neu));
     rechts->addWidget(neu);
 
-    auto* schweine = gruppe(Schweine, seite);
-    auto* wspalte = new QVBoxLayout(schweine);
-    wspalte->addWidget(schalter("Zwei_Schweine", ZweiSchweine, schweine));
-    auto* wein = new QVBoxLayout;
-    wein->setContentsMargins(16, 0, 0, 0);
-    wein->addWidget(schalter("Schweine_ansagen", SchweineAnsagen, schweine));
-    wein->addWidget(schalter("Schweine_b_TrSolo", SchweineKaroSolo, schweine));
-    wein->addWidget(schalter("Supersau", Supersau, schweine));
-    wein->addWidget(schalter("Stille_befoerderung", StilleBefoerderung, schweine));
-    wspalte->addLayout(wein);
-    rechts->addWidget(schweine);
     rechts->addStretch();
     rechts->addWidget(hinweis(AbNaechstemSpiel, seite));
 
-    for (const char* k : {"Solis", "Vh_Solo", "Zwei_Schweine", "Supersau"})
+    for (const char* k : {"Solis", "Vh_Solo"})
         connect(qobject_cast<QCheckBox*>(feld(k)), &QCheckBox::toggled, this, &Einstellform::freigaben);
     return seite;
 }
@@ -288,7 +282,20 @@ QWidget* Einstellform::sonderpunkteSeite() {
     liste->addWidget(schalter("Sopu_Herzstich", SopuHerzstich, sopu));
     spalte->addWidget(sopu);
     spalte->addWidget(hinweis(ImmerSonderpunkte, seite));
+
+    auto* schweine = gruppe(Schweine, seite);
+    auto* wspalte = new QVBoxLayout(schweine);
+    wspalte->addWidget(schalter("Zwei_Schweine", ZweiSchweine, schweine));
+    auto* wein = eingerueckt();
+    wein->addWidget(schalter("Schweine_ansagen", SchweineAnsagen, schweine));
+    wein->addWidget(schalter("Schweine_b_TrSolo", SchweineKaroSolo, schweine));
+    wein->addWidget(schalter("Supersau", Supersau, schweine));
+    wein->addWidget(schalter("Stille_befoerderung", StilleBefoerderung, schweine));
+    wspalte->addLayout(wein);
+    spalte->addWidget(schweine);
     spalte->addStretch();
+    for (const char* k : {"Zwei_Schweine", "Supersau"})
+        connect(qobject_cast<QCheckBox*>(feld(k)), &QCheckBox::toggled, this, &Einstellform::freigaben);
     return seite;
 }
 
@@ -367,14 +374,14 @@ QWidget* Einstellform::anzeigeSeite() {
     tform->addRow(t(Vordergrund), vordergrund);
     tform->addRow(t(Einsammeln), auswahl("Einsammeln", {{0, t(EinsammelnSofort)}, {-1, t(EinsammelnKlick)}}, tisch,
                                          [](int w) { return w == 0 ? 0 : -1; }));
-    tform->addRow(schalter("Animation", Animation, tisch));
     tform->addRow(schalter("Augen_zeigen", AugenZeigen, tisch));
     tform->addRow(schalter("Partei_zeigen", ParteiZeigen, tisch));
-    tform->addRow(schalter("Karten", Karten_, tisch));
     unten->addWidget(tisch, 1);
 
     auto* fenster = gruppe(Fenster, seite);
     auto* fspalte = new QVBoxLayout(fenster);
+    fspalte->addWidget(schalter("Animation", Animation, fenster));
+    fspalte->addWidget(schalter("Karten", Karten_, fenster));
     fspalte->addWidget(schalter("Willkommen", Willkommen, fenster));
     fspalte->addWidget(schalter("Vollbild", Vollbild, fenster));
     fspalte->addWidget(schalter("Boxen", Boxen, fenster));

@@ -93,12 +93,12 @@ inline constexpr char EinsammelnKlick[] = "nach Mausklick auf den Stich";
 inline constexpr char AugenZeigen[] = "Augen anzeigen";
 inline constexpr char ParteiZeigen[] = "Parteien anzeigen";
 inline constexpr char Karten_[] = "Nicht spielbare Karten abdunkeln";
-inline constexpr char Boxen[] = "Meldungen des Spiels in Fenstern (sonst in der Statuszeile)";
+inline constexpr char Boxen[] = "Spielmeldungen in Fenstern";
 inline constexpr char Fenster[] = "Fenster";
-inline constexpr char Willkommen[] = "Willkommen-Bildschirm beim Start zeigen";
+inline constexpr char Willkommen[] = "Willkommen-Bildschirm beim Start";
 inline constexpr char Vollbild[] = "Vollbild";
 inline constexpr char Iconen[] = "Symbole in den Menüs";
-inline constexpr char Automatic[] = "Menüpunkt „Automatisch spielen“ zeigen";
+inline constexpr char Automatic[] = "„Automatisch spielen“ im Menü";
 
 // Sound.
 inline constexpr char Klang[] = "Klang";

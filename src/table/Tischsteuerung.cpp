@@ -149,6 +149,7 @@ void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
     meldungen_.clear();
     begruendungen_.verwerfen();
     spiel_ = stand;
+    hfo_.tisch().bewegungAbbrechen();
     hfo_.tisch().setzeStichSichtbar(true);
 }
 
@@ -161,22 +162,28 @@ void Tischsteuerung::fortsetzen(const engine::Spiel& stand) {
 
 void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
     zustandUebernehmen(stand);
-    ablauf_.geladenesSpielFortsetzen();
-    wissen_.nachvollziehen(spiel_);
+    // A game saved after its end box was seen is not scored or shown again.
+    const bool schonGewertet = spiel_.ergebnis.gewertet;
     // The score sheet of the Partie so far, as far as the table of games holds it.
     zeilen_.clear();
-    const int gespielt = std::min(spiel_.partie.spielNr - (spiel_.ergebnis.gewertet ? 0 : 1),
+    const int gespielt = std::min(spiel_.partie.spielNr - (schonGewertet ? 0 : 1),
                                   static_cast<int>(spiel_.partie.spieltabelle.size()));
     if (spiel_.regeln.abrOption == 2)
         for (int i = 0; i < gespielt; ++i) zeilen_.push_back(spiel_.partie.spieltabelle[static_cast<std::size_t>(i)]);
     letztesSpiel_ = engine::Spiel{};
+    ablauf_.geladenesSpielFortsetzen();
+    wissen_.nachvollziehen(spiel_);
     hfo_.partieendeAnzeigen(spiel_.ablauf.phase == engine::Spielphase::Partieende);
-    if (spiel_.ablauf.phase == engine::Spielphase::Spielende) {
-        // Its end box was seen when it was played; its tricks stay viewable.
-        letztesSpiel_ = spiel_;
+    if (schonGewertet && spiel_.ablauf.phase == engine::Spielphase::Spielende) {
+        letztesSpiel_ = spiel_;  // its tricks stay viewable
         ablauf_.antworten(Antwort::weiter(Anfrageart::NaechstesSpiel));
     }
     weiter();
+}
+
+void Tischsteuerung::dialogOffen(bool offen) {
+    imDialog_ = offen;
+    if (!offen) weiter();
 }
 
 bool Tischsteuerung::speicherbar() const {
@@ -192,6 +199,7 @@ void Tischsteuerung::planen(int ms, void (Tischsteuerung::*schritt)()) {
     QTimer::singleShot(ms, this, [this, nr, schritt] {
         if (nr != schritt_) return;  // a new Partie began meanwhile
         geplant_ = false;
+        if (imDialog_) return;       // planned again when the dialog closes
         (this->*schritt)();
     });
 }

@@ -56,6 +56,8 @@ public:
     // Takes over a saved game: its phase follows from the cards played; a finished
     // game is not scored again, the next one starts.
     void geladenFortsetzen(const engine::Spiel& stand);
+    // While a dialog of the program is open the game waits; closing it carries on.
+    void dialogOffen(bool offen);
     // Whether the state is one a saved game can hold (cards are being played, or the Partie is over).
     bool speicherbar() const;
 

@@ -301,6 +301,9 @@ TEST_F(EinstellformTest, BilderDerReiter) {
     e.regeln.joker = -1;
     table::Einstellform form(e, table::benutzereinstellungenLesen(speicher_), umgebung());
     form.show();
+    // It fits the smallest screen the program is made for (800 x 600), frame included.
+    EXPECT_LE(form.sizeHint().width(), 790);
+    EXPECT_LE(form.sizeHint().height(), 565);
     for (int i = 0; i < form.reiter()->count(); ++i) {
         form.reiter()->setCurrentIndex(i);
         // Nothing is cut off: the dialog's size fits every tab.

@@ -16,6 +16,7 @@
 #include "sound/Klangspieler.h"
 #include "sound/QtKlanggeraet.h"
 #include "table/Dateiwahl.h"
+#include "table/Fensterplatz.h"
 #include "table/Hauptfenster.h"
 #include "table/Tischprogramm.h"
 #include "table/Tischsteuerung.h"
@@ -25,21 +26,7 @@ namespace app {
 
 namespace {
 
-// The per-user store keeps the window in twips, 15 to a pixel at the usual 96 dpi.
-constexpr int TwipsProPixel = 15;
-
 bool wahr(int wert) { return wert != 0; }
-
-// The stored place of the window, moved onto the screen when that has become smaller.
-QRect fensterrahmen(const settings::Fenstergeometrie& g, const QRect& bildschirm) {
-    QRect r(g.x / TwipsProPixel, g.y / TwipsProPixel, g.breite / TwipsProPixel, g.hoehe / TwipsProPixel);
-    r.setSize(r.size().boundedTo(bildschirm.size()).expandedTo(QSize(640, 480)));
-    if (!bildschirm.intersects(r) || !bildschirm.contains(r)) {
-        r.moveLeft(std::clamp(r.left(), bildschirm.left(), std::max(bildschirm.left(), bildschirm.right() - r.width())));
-        r.moveTop(std::clamp(r.top(), bildschirm.top(), std::max(bildschirm.top(), bildschirm.bottom() - r.height())));
-    }
-    return r;
-}
 
 }  // namespace
 
@@ -81,7 +68,8 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     QObject::connect(&steuerung, &table::Tischsteuerung::menschAmZug, [&] { klaenge.duBistDran(); });
     QObject::connect(&steuerung, &table::Tischsteuerung::supersauGemeldet, [&] { klaenge.supersau(); });
 
-    hfo.setGeometry(fensterrahmen(speicher.hauptfenster(), schirm ? schirm->availableGeometry() : QRect(0, 0, 1024, 768)));
+    hfo.setGeometry(
+        table::fensterrahmen(speicher.hauptfenster(), schirm ? schirm->availableGeometry() : QRect(0, 0, 1024, 768)));
     programm.fensterZeigen();
     bool zurueckgesetzt = false;
     QObject::connect(&programm, &table::Tischprogramm::programmEndeVerlangt, [&] {
@@ -91,9 +79,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     });
     QObject::connect(&hfo, &table::Hauptfenster::beendenGewuenscht, [&] {
         if (zurueckgesetzt) return;
-        const QRect r = hfo.normalGeometry();
-        speicher.setzeHauptfenster({r.x() * TwipsProPixel, r.y() * TwipsProPixel, r.width() * TwipsProPixel,
-                                    r.height() * TwipsProPixel});
+        speicher.setzeHauptfenster(table::fenstergeometrie(hfo.normalGeometry()));
         speicher.synchronisieren();
     });
 

@@ -405,7 +405,24 @@ TEST_F(TischprogrammTest, EinstellungenGeltenAbDemNaechstenSpiel) {
     e.regeln.zweiSchweine = -1;
     e.namen[1] = "Anna";
     e.charakter[1] = 0;
+    e.vollbild = -1;
+    e.automatic = 0;
+    e.iconen = 0;
+    e.karten = 0;
     t.programm.EinstUebernehmen(e, t.programm.benutzer());
+    // The window at once.
+    EXPECT_TRUE(t.hfo.isFullScreen());
+    EXPECT_TRUE(t.hfo.vollbildAktion()->isChecked());
+    EXPECT_FALSE(t.hfo.automatikAktion()->isVisible());
+    EXPECT_TRUE(t.hfo.ladenAktion()->icon().isNull());
+    t.hfo.vollbildAktion()->trigger();
+    EXPECT_FALSE(t.hfo.isFullScreen());
+    e.iconen = -1;
+    e.automatic = -1;
+    t.programm.EinstUebernehmen(e, t.programm.benutzer());
+    EXPECT_TRUE(t.hfo.automatikAktion()->isVisible());
+    EXPECT_FALSE(t.hfo.ladenAktion()->icon().isNull());
+    // The rules not before the next game.
     EXPECT_EQ(t.spiel().regeln.kontra, 5);
     EXPECT_FALSE(t.spiel().regeln.zweiSchweine);
     EXPECT_EQ(t.spiel().charakter[Sitz(2)], 2);

@@ -108,6 +108,9 @@ void Lage::werteBerechnen() {
         }
     }
     if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {
+        // The long suit chosen with the solo; a game taken over midway chooses afresh.
+        werte.langeFarbe = wissen.solo.langeFarbe[ich];
+        if (werte.langeFarbe != 0) return;
         int beste = 0;
         int besteSumme = 0;
         for (int f = 1; f <= 4; ++f) {

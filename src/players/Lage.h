@@ -130,9 +130,11 @@ public:
     // Own hand in display order: trumps from the top, then Kreuz, Pik, Herz, Karo.
     std::vector<int> sortierteHand() const;
 
+    // The Schweine holder is known to every seat (announced, seat 1's own, or one played).
+    bool schweinOeffentlich() const;
+
 private:
     void werteBerechnen();
-    bool schweinOeffentlich() const;
 };
 
 }  // namespace players

@@ -370,7 +370,10 @@ bool Tischwissen::aktuell(const Spiel& spiel) const {
     return begonnen_ && beobachteteKarten_ == erwartet;
 }
 
-void Tischwissen::kartenGegeben(const Spiel&) { zuruecksetzen(); }
+void Tischwissen::kartenGegeben(const Spiel&) {
+    zuruecksetzen();
+    solo.leeren();
+}
 
 void Tischwissen::spielBegonnen(const Spiel& spiel) {
     zuruecksetzen();

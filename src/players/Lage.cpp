@@ -72,9 +72,12 @@ bool Lage::istSchwein(int pos) const {
     return karte(pos).code == KaroAs && istTrumpf(pos) && staerke(pos) == StaerkeJoker;
 }
 bool Lage::istFuchs(int pos) const {
-    return karte(pos).code == KaroAs && istTrumpf(pos) && trumpf == Normalspiel && !istSchwein(pos);
+    return karte(pos).code == KaroAs && istTrumpf(pos) && trumpf == Normalspiel && !istSchwein(pos) &&
+           sonderpunkteMoeglich();
 }
-bool Lage::istKarlchen(int pos) const { return karte(pos).code == KreuzBube && istTrumpf(pos); }
+bool Lage::istKarlchen(int pos) const {
+    return karte(pos).code == KreuzBube && istTrumpf(pos) && sonderpunkteMoeglich();
+}
 bool Lage::istFigur(int pos) const { return karte(pos).wert == WertDame || karte(pos).wert == WertBube; }
 
 void Lage::werteBerechnen() {

@@ -70,8 +70,10 @@ public:
     int staerke(int pos) const;
     int augen(int pos) const { return spiel.deck[pos].augen; }
     bool istDolle(int pos) const;
+    // Special points count for neither card in a solo (known to the soloist when silent).
     bool istFuchs(int pos) const;      // a Karo-As as trump that is not a Schwein
     bool istKarlchen(int pos) const;   // Kreuz-Bube as trump
+    bool sonderpunkteMoeglich() const { return !spiel.solo && eigenePartei() != engine::ParteiSolo; }
     bool istSchwein(int pos) const;
     bool istFigur(int pos) const;      // Dame or Bube
     bool istZaehler(int pos) const { return augen(pos) > 9; }

@@ -215,6 +215,9 @@ inline constexpr T HochzeitTrumpfstich =
 inline constexpr T HochzeitErsterStich =
     " hat beide Kreuz-Damen und kein sicheres Solo! Heirate den Gewinner des ersten Stichs, damit mein "
     "Partner so früh wie möglich feststeht!";
+inline constexpr T SolistStehendeKarte = "Spiele als Solist die Karte aus, die keiner mehr schlagen kann!";
+inline constexpr T SolistStichtSicher = "Steche als Solist mit dem kleinsten Trumpf, der den Stich sicher nimmt!";
+inline constexpr T SolistSticht = "Steche als Solist den Stich mit Augen, auch wenn noch überstochen werden kann!";
 
 // --- Announcements.
 inline constexpr T GegnerLimitErreicht = "Gebe Kontra, weil gegnerisches Limit von ";

@@ -58,7 +58,7 @@ Vorbehalt Regelwerk::vorbehaltWaehlen(const Spiel& spiel, Sitz sitz) {
     }
     if (wahl.art != 0 && spiel.regeln.solis) return {Vorbehalt::Solo, wahl.art, KeineHochzeit};
     if (pflicht) {
-        const int art = pflichtsoloArt(spiel, sitz, arten, tabellen);
+        const int art = pflichtsoloArt(spiel, sitz, arten);
         melder.regel(verfahren::Vorbehalt, "Pflicht",
                      spielerText(sitz) + std::string(text::PflichtsoloWahl) + std::to_string(art) + "!");
         return {Vorbehalt::Solo, art, KeineHochzeit};

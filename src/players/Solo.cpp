@@ -370,15 +370,8 @@ Solowahl soloPruefen(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solo
     return w;
 }
 
-int pflichtsoloArt(const Spiel& spiel, Sitz sitz, const Soloarten& arten, const Solotabellen& tabellen) {
+int pflichtsoloArt(const Spiel& spiel, Sitz sitz, const Soloarten& arten) {
     int beste = 0;
-    for (int art = 1; art <= AnzahlSpielarten; ++art) {
-        const auto i = static_cast<std::size_t>(art);
-        if (arten[i] && tabellen.augenVerlust[sitz][i] < NichtSicher &&
-            (beste == 0 || tabellen.augenVerlust[sitz][i] < tabellen.augenVerlust[sitz][static_cast<std::size_t>(beste)]))
-            beste = art;
-    }
-    if (beste != 0) return beste;
     int meiste = -1;
     for (int art = Normalspiel; art <= KreuzSolo; ++art) {
         if (!arten[static_cast<std::size_t>(art)]) continue;

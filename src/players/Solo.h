@@ -70,9 +70,8 @@ struct Solowahl {
 Solowahl soloPruefen(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen,
                      const Melder& melder);
 
-// A duty solo without a kind of its own: the least estimated loss, else the colour with
-// most trumps. Needs the tables of sicheresSolo for the seat.
-int pflichtsoloArt(const Spiel& spiel, Sitz sitz, const Soloarten& arten, const Solotabellen& tabellen);
+// A duty solo when SoloPruefen found none: the colour with most trumps (the first on ties).
+int pflichtsoloArt(const Spiel& spiel, Sitz sitz, const Soloarten& arten);
 
 // The Hochzeit kind for a hand with both Kreuz-Damen, and the sentence that explains it.
 struct Hochzeitwahl {

@@ -395,9 +395,12 @@ void Tischwissen::parteienGeaendert(const Spiel& spiel) {
         partei[s] = spiel.partei[s];
         parteiWissen[s][s] = partei[s];
     }
-    // A settled Hochzeit or a declared solo is known to everybody.
+    // A settled Hochzeit or a declared solo is known to everybody, the indicator included.
     if (spiel.solo || spiel.hochzeitGeklaert)
-        for (const Sitz x : alleSitze) allenBekannt(x, partei[x]);
+        for (const Sitz x : alleSitze) {
+            allenBekannt(x, partei[x]);
+            parteiBekannt[x] = partei[x];
+        }
     parteizeigerSetzen(spiel);
 }
 

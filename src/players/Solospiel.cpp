@@ -2,29 +2,20 @@
 // others, so every trick he can take safely is his.
 #include <array>
 
+#include "Regelhilfen.h"
 #include "Texte.h"
 #include "Verfahren.h"
 
 namespace players {
 
 using namespace engine;
+using hilfe::billigste;
 
 namespace {
 
 bool binSolist(const Lage& l) { return l.wissen.partei[l.ich] == ParteiSolo; }
 // Without trumps the long suit of the fleischlos solo leads the way instead.
 bool solistMitTrumpf(const Lage& l) { return binSolist(l) && l.trumpf != SoloOhneTrumpf; }
-
-// The cheapest card of `karten` by strength, then Augen.
-template <class F>
-int billigste(const Lage& l, F passt) {
-    int beste = 0;
-    for (int p : l.erlaubt)
-        if (passt(p) && (beste == 0 || std::make_pair(l.staerke(p), l.augen(p)) <
-                                           std::make_pair(l.staerke(beste), l.augen(beste))))
-            beste = p;
-    return beste;
-}
 
 bool ruffen(const Lage& l) {
     return binSolist(l) && !l.trumpfGefuehrt && l.anzahlInHand(l.zuBedienen) == 0 && l.werte.eigeneTruempfe > 0;

@@ -3,7 +3,7 @@
 // kind (SoloBewerten, SicheresSolo), the unsafe solo steps (SoloPruefen), the
 // silent solo, the duty solo and the kind of a Hochzeit.
 #include <array>
-#include <string>
+#include <string_view>
 
 #include "Melder.h"
 #include "Solotabellen.h"
@@ -51,7 +51,7 @@ Soloarten soloartenAusRegeln(const engine::Regeln& regeln);
 
 // SoloBewerten: stores the estimates of the kind and returns its Augen loss.
 int soloBewerten(const Spiel& spiel, Sitz sitz, int art, Solotabellen& tabellen);
-// SicherheitsSolo: the safe kind with the least loss (ties: more trumps, then Herz), or 0.
+// SicheresSolo: the safe kind with the least loss (ties: more trumps, then Herz), or 0.
 int sicheresSolo(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen);
 
 // Why SoloPruefen chose its kind.

@@ -15,6 +15,7 @@
 #include "engine/Spielablauf.h"
 #include "engine/Zufall.h"
 #include "players/Regelstatistik.h"
+#include "players/Spielstatistik.h"
 
 namespace app {
 
@@ -66,8 +67,13 @@ int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& b
     else ablauf.neuePartie();
 
     players::Regelstatistik statistik;
+    players::Spielstatistik spielstatistik;
+    players::Senkenverteiler senken;
+    senken.hinzufuegen(statistik);
+    senken.hinzufuegen(spielstatistik);
+    if (auftrag.statistik) ablauf.beobachterHinzufuegen(&spielstatistik);
     const Computertisch tisch(ablauf, zufall, {"regelwerk", "regelwerk", "regelwerk", "regelwerk"},
-                              auftrag.statistik ? &statistik : nullptr);
+                              auftrag.statistik ? &senken : nullptr);
     const engine::ProSitz<engine::Entscheider*> entscheider = tisch.entscheider();
     std::vector<Partiezeile> zeilen;
     engine::Selbstspiel selbstspiel(ablauf, entscheider);
@@ -80,7 +86,7 @@ int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& b
         zeilen.back().stand = s.partie.punkte;
     });
     bogenSchreiben(bogen, zeilen, spiel, auftrag);
-    if (auftrag.statistik) bogen << statistik.bericht();
+    if (auftrag.statistik) bogen << statistik.bericht() << spielstatistik.bericht();
     for (const std::string& f : schiedsrichter.fehler()) bogen << "Regelverstoß: " << f << "\n";
     for (const std::string& g : bilanz.gruende) bogen << "Abgelehnt: " << g << "\n";
     return schiedsrichter.fehlerAnzahl() + bilanz.abgelehnt;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "Regelhilfen.h"
+#include "Solo.h"
 #include "Texte.h"
 #include "Verfahren.h"
 
@@ -33,8 +34,12 @@ int uebermaechtigeTruempfe(const Lage& l) {
     return n;
 }
 
-// KannTrumpfAbziehen: the own top trumps pull all the others'.
-bool kannTrumpfAbziehen(const Lage& l) { return uebermaechtigeTruempfe(l) >= l.werte.fremdeTruempfe; }
+// KannTrumpfAbziehen: the own top trumps pull all the others'. A soloist counts on the
+// others' trumps being spread, as his solo evaluation does.
+bool kannTrumpfAbziehen(const Lage& l) {
+    if (uebermaechtigeTruempfe(l) >= l.werte.fremdeTruempfe) return true;
+    return l.wissen.partei[l.ich] == ParteiSolo && soloSchaetzen(l.spiel, l.ich, l.trumpf, true).abziehen;
+}
 // Second form: also when no Dolle is out against the own highest trump.
 bool kannTrumpfAbziehen2(const Lage& l) {
     return kannTrumpfAbziehen(l) || (l.werte.fremdeDollen == 0 && uebermaechtigeTruempfe(l) >= 1);
@@ -412,6 +417,7 @@ int ausspielWaehlen(const Lage& l) {
         karte = l.hoechsterTrumpf();
         l.melder.regel(verfahren::Ausspiel, "00", text::TrumpfZuerstZiehen);
     }
+    if (karte == 0) karte = solistAusspielen(l);
     if (karte == 0) karte = regelnAnwenden(kette, l, verfahren::Ausspiel);
     if (karte == 0) {
         l.melder.rueckfall(verfahren::Ausspiel);

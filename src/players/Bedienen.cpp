@@ -24,7 +24,8 @@ bool habeFarbe(const Lage& l, int farbe) { return l.anzahlInHand(farbe) > 0; }
 }  // namespace
 
 int bedienenWaehlen(const Lage& l) {
-    int karte = 0;
+    int karte = solistFolgen(l);
+    if (karte != 0) return karte;
     if (l.trumpfGefuehrt) {
         karte = habeFarbe(l, l.trumpf) ? trumpfBedienen(l) : abwerfen(l);
     } else if (habeFarbe(l, l.zuBedienen)) {

@@ -20,17 +20,6 @@ void melden(const Lage& l, std::string_view code, std::string_view text) {
     l.melder.regel(verfahren::Filter, code, text);
 }
 
-// Cheapest legal card (by strength, then Augen) among those passing `passt`.
-template <class F>
-int billigste(const Lage& l, F passt) {
-    int beste = 0;
-    for (int p : l.erlaubt)
-        if (passt(p) && (beste == 0 || std::make_pair(l.staerke(p), l.augen(p)) <
-                                           std::make_pair(l.staerke(beste), l.augen(beste))))
-            beste = p;
-    return beste;
-}
-
 bool zweiteDolleDraussen(const Lage& l) { return !l.spiel.regeln.herzZehn && l.werte.fremdeDollen > 0; }
 
 // A later opponent may hold the second Dolle and take the first.

@@ -72,9 +72,12 @@ bool Lage::istSchwein(int pos) const {
     return karte(pos).code == KaroAs && istTrumpf(pos) && staerke(pos) == StaerkeJoker;
 }
 bool Lage::istFuchs(int pos) const {
-    return karte(pos).code == KaroAs && istTrumpf(pos) && trumpf == Normalspiel && !istSchwein(pos);
+    return karte(pos).code == KaroAs && istTrumpf(pos) && trumpf == Normalspiel && !istSchwein(pos) &&
+           sonderpunkteMoeglich();
 }
-bool Lage::istKarlchen(int pos) const { return karte(pos).code == KreuzBube && istTrumpf(pos); }
+bool Lage::istKarlchen(int pos) const {
+    return karte(pos).code == KreuzBube && istTrumpf(pos) && sonderpunkteMoeglich();
+}
 bool Lage::istFigur(int pos) const { return karte(pos).wert == WertDame || karte(pos).wert == WertBube; }
 
 void Lage::werteBerechnen() {
@@ -108,6 +111,9 @@ void Lage::werteBerechnen() {
         }
     }
     if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {
+        // The long suit chosen with the solo; a game taken over midway chooses afresh.
+        werte.langeFarbe = wissen.solo.langeFarbe[ich];
+        if (werte.langeFarbe != 0) return;
         int beste = 0;
         int besteSumme = 0;
         for (int f = 1; f <= 4; ++f) {

@@ -70,8 +70,10 @@ public:
     int staerke(int pos) const;
     int augen(int pos) const { return spiel.deck[pos].augen; }
     bool istDolle(int pos) const;
+    // Special points count for neither card in a solo (known to the soloist when silent).
     bool istFuchs(int pos) const;      // a Karo-As as trump that is not a Schwein
     bool istKarlchen(int pos) const;   // Kreuz-Bube as trump
+    bool sonderpunkteMoeglich() const { return !spiel.solo && eigenePartei() != engine::ParteiSolo; }
     bool istSchwein(int pos) const;
     bool istFigur(int pos) const;      // Dame or Bube
     bool istZaehler(int pos) const { return augen(pos) > 9; }
@@ -130,9 +132,11 @@ public:
     // Own hand in display order: trumps from the top, then Kreuz, Pik, Herz, Karo.
     std::vector<int> sortierteHand() const;
 
+    // The Schweine holder is known to every seat (announced, seat 1's own, or one played).
+    bool schweinOeffentlich() const;
+
 private:
     void werteBerechnen();
-    bool schweinOeffentlich() const;
 };
 
 }  // namespace players

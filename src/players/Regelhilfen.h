@@ -1,5 +1,7 @@
 #pragma once
 // Small conditions shared by the rule tables.
+#include <utility>
+
 #include "Lage.h"
 
 namespace players::hilfe {
@@ -23,6 +25,16 @@ inline int werthoherSchlagenderTrumpf(const Lage& l) {
     for (int p : l.erlaubt)
         if (l.istTrumpf(p) && l.schlaegt(p) && l.istZaehler(p) && !l.istFigur(p) && !l.istDolle(p) && !l.istSchwein(p) &&
             (beste == 0 || l.augen(p) > l.augen(beste)))
+            beste = p;
+    return beste;
+}
+// Cheapest legal card (by strength, then Augen) among those passing `passt`.
+template <class F>
+int billigste(const Lage& l, F passt) {
+    int beste = 0;
+    for (int p : l.erlaubt)
+        if (passt(p) && (beste == 0 || std::make_pair(l.staerke(p), l.augen(p)) <
+                                           std::make_pair(l.staerke(beste), l.augen(beste))))
             beste = p;
     return beste;
 }

@@ -30,6 +30,11 @@ inline constexpr std::string_view Stechen = "stechen_oder_abwerfen";
 inline constexpr std::string_view Abwerfen = "abwerfen";
 inline constexpr std::string_view Filter = "Filter";
 inline constexpr std::string_view Bedienen = "BedienenWaehlen";
+inline constexpr std::string_view SoloPruefen = "SoloPruefen";
+inline constexpr std::string_view Solospiel = "Solospiel";
+inline constexpr std::string_view Vorbehalt = "Vorbehalt";
+inline constexpr std::string_view KontraPruefen = "KontraPruefen";
+inline constexpr std::string_view LimitPruefen = "LimitPruefen";
 }  // namespace verfahren
 
 }  // namespace players

@@ -1,26 +1,35 @@
 #pragma once
-// The rule book player: leads and follows by the ordered rule tables, with the
-// knowledge shared by the computer seats of its table.
+// The rule book player: reservations, announcements, leads and follows by the
+// ordered rule tables, with the knowledge shared by the computer seats of its table.
 #include "Begruendung.h"
 #include "Tischwissen.h"
 #include "engine/Entscheider.h"
 
 namespace players {
 
+// What the rule book decides beyond its cards; both off is the card player alone
+// (for measuring what solos, the Hochzeit and announcements are worth).
+struct Regelwerksart {
+    bool vorbehalte = true;  // solos, silent solo, Hochzeit
+    bool ansagen = true;     // Re, Kontra and limits
+};
+
 class Regelwerk final : public engine::Entscheider {
 public:
     // `zufall` serves the rules that choose at random; the table's source is fine.
-    Regelwerk(Tischwissen& wissen, engine::Zufallsquelle& zufall, Begruendungssenke* senke = nullptr)
-        : wissen_(wissen), zufall_(zufall), senke_(senke) {}
+    Regelwerk(Tischwissen& wissen, engine::Zufallsquelle& zufall, Begruendungssenke* senke = nullptr,
+              Regelwerksart art = {})
+        : wissen_(wissen), zufall_(zufall), senke_(senke), art_(art) {}
 
     int karteWaehlen(const Spiel& spiel, Sitz sitz) override;
-    engine::Vorbehalt vorbehaltWaehlen(const Spiel&, Sitz) override { return {}; }
-    std::optional<engine::Ansage> ansageWaehlen(const Spiel&, Sitz) override { return std::nullopt; }
+    engine::Vorbehalt vorbehaltWaehlen(const Spiel& spiel, Sitz sitz) override;
+    std::optional<engine::Ansage> ansageWaehlen(const Spiel& spiel, Sitz sitz) override;
 
 private:
     Tischwissen& wissen_;
     engine::Zufallsquelle& zufall_;
     Begruendungssenke* senke_;
+    Regelwerksart art_;
 };
 
 }  // namespace players

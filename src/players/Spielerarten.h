@@ -16,7 +16,8 @@ struct Spielerumgebung {
     Begruendungssenke* senke = nullptr;
 };
 
-// "regelwerk", "zufall", "kleinste"; nullptr for an unknown name.
+// "regelwerk", "regelwerk-ohne-ansagen", "regelwerk-nur-karten", "zufall", "kleinste";
+// nullptr for an unknown name.
 std::unique_ptr<engine::Entscheider> spielerErzeugen(std::string_view art, Spielerumgebung& umgebung);
 const std::vector<std::string_view>& spielerarten();
 

@@ -198,4 +198,46 @@ inline constexpr T FbDH0160 = "Mld.DH0160 Hinterhand hat Farbe nicht mehr - Werf
 inline constexpr T FbDH0247 = "Mld.DH0247 Kann den ungestochenen Stich des Feindes in DH nicht mit der Höchsten s des Spiels mitnehmen - Werfe daher meine kleinste der Farbe!";
 inline constexpr T FbDH0248 = "Mld.DH0248 Stelle in DH fest, daß von (Feind?) gestochen wurde!";
 
+// --- Reservations and solos.
+inline constexpr T SicheresSoloMitte = " hat  s i c h e r e s  Solo bei Trumpf = ";
+inline constexpr T SicheresSoloEnde = " gefunden!";
+inline constexpr T UnsicheresSolo = "Sage unsicheres Solo der Farbe ";
+inline constexpr T UnsicheresSoloEnde = " an!";
+inline constexpr T StillesSoloBehalten =
+    " hat beide Kreuz-Damen und ein sicheres Spiel ohne Ansage! Spiele es als stilles Solo!";
+inline constexpr T PflichtsoloWahl = " muß sein Pflichtsolo spielen und wählt Trumpf = ";
+inline constexpr T HochzeitFehlstich =
+    " hat beide Kreuz-Damen und kein sicheres Solo! Heirate den Gewinner des ersten Fehlstichs, weil ich "
+    "mit vielen Trümpfen einen Partner mit starken Fehlfarben suche!";
+inline constexpr T HochzeitTrumpfstich =
+    " hat beide Kreuz-Damen und kein sicheres Solo! Heirate den Gewinner des ersten Trumpfstichs, weil ich "
+    "mit mindestens drei Assen in den Fehlfarben einen Partner mit starken Trümpfen suche!";
+inline constexpr T HochzeitErsterStich =
+    " hat beide Kreuz-Damen und kein sicheres Solo! Heirate den Gewinner des ersten Stichs, damit mein "
+    "Partner so früh wie möglich feststeht!";
+inline constexpr T SolistStehendeKarte = "Spiele als Solist die Karte aus, die keiner mehr schlagen kann!";
+inline constexpr T SolistStichtSicher = "Steche als Solist mit dem kleinsten Trumpf, der den Stich sicher nimmt!";
+inline constexpr T SolistSticht = "Steche als Solist den Stich mit Augen, auch wenn noch überstochen werden kann!";
+
+// --- Announcements.
+inline constexpr T GegnerLimitErreicht = "Gebe Kontra, weil gegnerisches Limit von ";
+inline constexpr T GegnerLimitErreichtEnde = " bereits erreicht!";
+inline constexpr T EigenesLimitInGefahr =
+    " denkt: (Gegner)? überschreiten Limit meiner Partei! Gebe daher kein Kontra!";
+inline constexpr T BereitsGewonnen =
+    "Gebe Kontra, weil meine Partei bereits die Augen erzielt hat, die sie um Gewinnen braucht!";
+inline constexpr T SoloSicherGewonnen =
+    "Gebe Kontra oder als Solist Re, weil ich ein Solo in dieser Farbe sicher gewonnen hätte!/habe!";
+inline constexpr T FleischlosSicher = "Gebe als Solist Re, weil ich ein Solo in dieser Farbe sicher gewinne!";
+inline constexpr T NichtGewinnbar =
+    "Gebe kein Kontra, weil Spiel nicht mehr gewinnbar oder ich die Parteiverteilung noch nicht genau kenne!";
+inline constexpr T AnsagewertHoch = "Sage an, weil mein Ansagewert von ";
+inline constexpr T AnsagewertHochEnde = " über 100 liegt!";
+inline constexpr T LimitAnsagen = "Sage ein Limit von ";
+inline constexpr T LimitAnsagenGegner = " an, weil die Gegner bisher ";
+inline constexpr T LimitAnsagenRest = " Augen haben und ich höchstens noch ";
+inline constexpr T LimitAnsagenEnde = " Augen abgebe!";
+inline constexpr T SchwarzAnsagen =
+    "Sage SCHWARZ an, weil die Gegner noch keinen Stich haben, ich alle Trümpfe ziehe und keinen Stich abgebe!";
+
 }  // namespace players::text

@@ -370,7 +370,10 @@ bool Tischwissen::aktuell(const Spiel& spiel) const {
     return begonnen_ && beobachteteKarten_ == erwartet;
 }
 
-void Tischwissen::kartenGegeben(const Spiel&) { zuruecksetzen(); }
+void Tischwissen::kartenGegeben(const Spiel&) {
+    zuruecksetzen();
+    solo.leeren();
+}
 
 void Tischwissen::spielBegonnen(const Spiel& spiel) {
     zuruecksetzen();
@@ -392,9 +395,12 @@ void Tischwissen::parteienGeaendert(const Spiel& spiel) {
         partei[s] = spiel.partei[s];
         parteiWissen[s][s] = partei[s];
     }
-    // A settled Hochzeit or a declared solo is known to everybody.
+    // A settled Hochzeit or a declared solo is known to everybody, the indicator included.
     if (spiel.solo || spiel.hochzeitGeklaert)
-        for (const Sitz x : alleSitze) allenBekannt(x, partei[x]);
+        for (const Sitz x : alleSitze) {
+            allenBekannt(x, partei[x]);
+            parteiBekannt[x] = partei[x];
+        }
     parteizeigerSetzen(spiel);
 }
 

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "Begruendung.h"
+#include "Solotabellen.h"
 #include "engine/Entscheider.h"
 #include "engine/Zufall.h"
 
@@ -44,6 +45,8 @@ public:
     ProSitz<int> zeigerBild;                             // picture on the indicator, 0 none yet
     int zufallszahl = 1;                                 // 1..100
     int msgBoxModus = MsgBoxVerbergen;
+    // The reservations' solo evaluation (cleared at the deal only: play reads it).
+    Solotabellen solo;
 
     // Tricks led per effective suit so far (the trick in progress included).
     std::array<int, AnzahlFarben> angespielt{};

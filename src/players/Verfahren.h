@@ -17,6 +17,10 @@ int trumpfBedienen(const Lage& lage);
 int stechenOderAbwerfen(const Lage& lage);
 int abwerfen(const Lage& lage);
 
+// The soloist's own rules, tried first (0 when none fired).
+int solistAusspielen(const Lage& lage);
+int solistFolgen(const Lage& lage);
+
 // The last resort: a legal card of few Augen, leads preferring plain cards.
 int rueckfallKarte(const Lage& lage);
 

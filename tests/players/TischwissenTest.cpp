@@ -217,3 +217,21 @@ TEST(Tischwissen, NachvollziehenWieBeobachtet) {
     });
     EXPECT_EQ(spiele, 20);
 }
+
+// Seat 1 marries: it first sees every other seat as Kontra; once the partner is
+// found, the indicator shows him as Re.
+TEST(Tischwissen, HochzeitspartnerAufDemZeiger) {
+    Situation s(engine::Normalspiel, {{KreuzDame, KreuzDame}, {PikNeun}, {HerzNeun}, {KaroNeun}});
+    s.spiel.hochzeiter = Sitz(1);
+    s.spiel.hochzeitArt = engine::ErsterStich;
+    s.parteien({ParteiRe, ParteiKontra, ParteiKontra, ParteiKontra});
+    s.wissen.spielBegonnen(s.spiel);
+    EXPECT_EQ(s.wissen.parteiBekannt[Sitz(4)], ParteiKontra);
+    s.spiel.hochzeitPartner = Sitz(4);
+    s.spiel.hochzeitGeklaert = true;
+    s.spiel.partei[Sitz(4)] = ParteiRe;
+    s.wissen.parteienGeaendert(s.spiel);
+    EXPECT_EQ(s.wissen.parteiBekannt[Sitz(4)], ParteiRe);
+    EXPECT_EQ(s.wissen.parteiBekannt[Sitz(2)], ParteiKontra);
+    EXPECT_EQ(glaube(s, 4, 2), ParteiRe);
+}

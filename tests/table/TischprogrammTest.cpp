@@ -1,5 +1,7 @@
 #include <QAbstractButton>
 #include <QAction>
+#include <QCheckBox>
+#include <QLineEdit>
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
@@ -19,6 +21,7 @@
 #include "savegame/Partiespeicher.h"
 #include "settings/Benutzerspeicher.h"
 #include "table/Hauptfenster.h"
+#include "table/Einstellform.h"
 #include "table/Kartenfeld.h"
 #include "table/Meldungsdialog.h"
 #include "table/Regelseite.h"
@@ -435,6 +438,43 @@ TEST_F(TischprogrammTest, EinstellungenGeltenAbDemNaechstenSpiel) {
     EXPECT_EQ(t.spiel().regeln.kontra, 0);
     EXPECT_TRUE(t.spiel().regeln.zweiSchweine);
     EXPECT_EQ(t.spiel().charakter[Sitz(2)], 0);
+}
+
+// The settings dialog from the menu: OK takes the values over, the reset ends the program.
+TEST_F(TischprogrammTest, EinstellungenAusDemMenue) {
+    Tisch t(ordner_.path());
+    t.steuerung.neuePartie();
+    ASSERT_TRUE(warten([&] { return t.hfo.tisch().kartenwahl(); }));
+    QSignalSpy ende(&t.programm, &table::Tischprogramm::programmEndeVerlangt);
+    QSignalSpy uebernommen(&t.programm, &table::Tischprogramm::einstellungenUebernommen);
+    antworten_ = [&](QWidget* w) {
+        auto* form = qobject_cast<table::Einstellform*>(w);
+        if (!form) return false;
+        form->findChild<QLineEdit*>(QStringLiteral("Name2"))->setText(QStringLiteral("Anna"));
+        form->findChild<QCheckBox*>(QStringLiteral("speichern_jn"))->setChecked(false);
+        form->accept();
+        return true;
+    };
+    t.hfo.einstellungenAktion()->trigger();
+    EXPECT_EQ(uebernommen.count(), 1);
+    EXPECT_EQ(t.spiel().namen[Sitz(2)], "Anna");
+    EXPECT_FALSE(QFile::exists(t.optionsdatei));
+
+    antworten_ = [&](QWidget* w) {
+        if (auto* form = qobject_cast<table::Einstellform*>(w)) {
+            QTimer::singleShot(0, form->findChild<QPushButton*>(QStringLiteral("cmdreset")), &QPushButton::click);
+            return true;
+        }
+        if (auto* box = qobject_cast<QMessageBox*>(w)) {
+            box->button(QMessageBox::Yes)->click();
+            return true;
+        }
+        return false;
+    };
+    t.hfo.einstellungenAktion()->trigger();
+    antworten_ = nullptr;
+    EXPECT_EQ(ende.count(), 1);
+    EXPECT_EQ(uebernommen.count(), 1);  // a reset takes nothing over
 }
 
 }  // namespace

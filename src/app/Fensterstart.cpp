@@ -8,7 +8,6 @@
 #include <iostream>
 
 #include "Oberflaeche.h"
-#include "Tischoptionen.h"
 #include "engine/Kartentext.h"
 #include "settings/Benutzerspeicher.h"
 #include "settings/Optionsdatei.h"
@@ -16,16 +15,16 @@
 #include "sound/Klangbeobachter.h"
 #include "sound/Klangspieler.h"
 #include "sound/QtKlanggeraet.h"
+#include "table/Dateiwahl.h"
+#include "table/Fensterplatz.h"
 #include "table/Hauptfenster.h"
+#include "table/Tischprogramm.h"
 #include "table/Tischsteuerung.h"
 #include "table/Tischtexte.h"
 
 namespace app {
 
 namespace {
-
-// The per-user store keeps the window in twips, 15 to a pixel at the usual 96 dpi.
-constexpr int TwipsProPixel = 15;
 
 bool wahr(int wert) { return wert != 0; }
 
@@ -35,7 +34,8 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     QElapsedTimer uhr;
     uhr.start();
     const auto anwendung = anwendungStarten(argc, argv, false);
-    const QSize bildschirm = QGuiApplication::primaryScreen() ? QGuiApplication::primaryScreen()->size() : QSize(1024, 768);
+    QScreen* schirm = QGuiApplication::primaryScreen();
+    const QSize bildschirm = schirm ? schirm->size() : QSize(1024, 768);
     settings::Benutzerspeicher speicher(bildschirm.width());
     speicher.programmordnerVermerken(QCoreApplication::applicationDirPath());
     if (speicher.aufloesungswarnungFaellig(bildschirm.width(), bildschirm.height())) {
@@ -43,41 +43,52 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
                               QString::fromUtf8(table::texte::Aufloesungswarnung));
         speicher.aufloesungswarnungVermerken();
     }
-    const settings::Einstellungen einstellungen =
-        settings::EinstellungenLesen(settings::optionsdateiPfad(), settings::startLesekontext());
+    speicher.ersterStartUebernehmen();
+    const settings::Lesekontext kontext = settings::startLesekontext();
+    const settings::Einstellungen einstellungen = settings::EinstellungenLesen(settings::optionsdateiPfad(), kontext);
 
     table::Hauptfenster hfo;
     const std::uint64_t seed = aufruf.seed.value_or(QRandomGenerator::global()->generate64());
     table::Tischsteuerung steuerung(hfo, std::make_unique<engine::SeedZufall>(seed));
-    einstellungenUebernehmen(steuerung, einstellungen);
-    const table::Anzeigeoptionen optionen = anzeigeoptionen(einstellungen);
+    table::Dateidialoge dateidialoge;
+    table::Tischprogramm programm(hfo, steuerung, speicher, dateidialoge, settings::optionsdateiPfad());
+    programm.setzeLesekontext(kontext);
 
     sound::QtKlanggeraet geraet;
     sound::Klangspieler klangspieler(geraet);
-    klangspieler.optionenSetzen({wahr(einstellungen.sprachausgabe), wahr(einstellungen.geraeusch), wahr(einstellungen.signal)});
-    klangspieler.soundOeffnen(QCoreApplication::applicationDirPath().toStdString());
     sound::Klangbeobachter klaenge(klangspieler);
-    klaenge.franzoesischeNamenSetzen(engine::franzoesischeBilder(optionen.kartenbild));
+    auto klangEinstellen = [&](const settings::Einstellungen& e) {
+        klangspieler.optionenSetzen({wahr(e.sprachausgabe), wahr(e.geraeusch), wahr(e.signal)});
+        klaenge.franzoesischeNamenSetzen(engine::franzoesischeBilder(e.kartenbild));
+    };
+    QObject::connect(&programm, &table::Tischprogramm::einstellungenUebernommen, klangEinstellen);
+    programm.EinstUebernehmen(einstellungen, programm.benutzer());
+    klangspieler.soundOeffnen(QCoreApplication::applicationDirPath().toStdString());
     steuerung.ablauf().beobachterHinzufuegen(&klaenge);
     QObject::connect(&steuerung, &table::Tischsteuerung::menschAmZug, [&] { klaenge.duBistDran(); });
     QObject::connect(&steuerung, &table::Tischsteuerung::supersauGemeldet, [&] { klaenge.supersau(); });
 
-    const settings::Fenstergeometrie g = speicher.hauptfenster();
-    hfo.setGeometry(g.x / TwipsProPixel, g.y / TwipsProPixel, g.breite / TwipsProPixel, g.hoehe / TwipsProPixel);
-    if (wahr(einstellungen.vollbild)) hfo.showMaximized();
-    else hfo.show();
+    hfo.setGeometry(
+        table::fensterrahmen(speicher.hauptfenster(), schirm ? schirm->availableGeometry() : QRect(0, 0, 1024, 768)));
+    programm.fensterZeigen();
+    bool zurueckgesetzt = false;
+    QObject::connect(&programm, &table::Tischprogramm::programmEndeVerlangt, [&] {
+        // After a reset nothing is written back: the next start runs on defaults.
+        zurueckgesetzt = true;
+        hfo.SubPrgBeenden();
+    });
     QObject::connect(&hfo, &table::Hauptfenster::beendenGewuenscht, [&] {
-        const QRect r = hfo.normalGeometry();
-        speicher.setzeHauptfenster({r.x() * TwipsProPixel, r.y() * TwipsProPixel, r.width() * TwipsProPixel,
-                                    r.height() * TwipsProPixel});
+        if (zurueckgesetzt) return;
+        speicher.setzeHauptfenster(table::fenstergeometrie(hfo.normalGeometry()));
         speicher.synchronisieren();
     });
 
+    const QString ladeDatei = QString::fromStdString(aufruf.ladeDatei);
     QTimer::singleShot(0, &steuerung, [&] {
         // For measuring the start: TRUMPONA_STARTZEIT prints when the table first stood.
         if (qEnvironmentVariableIsSet("TRUMPONA_STARTZEIT"))
             QTimer::singleShot(0, [&] { std::cerr << "Tisch sichtbar nach " << uhr.elapsed() << " ms\n"; });
-        steuerung.neuePartie();
+        programm.starten(ladeDatei);
     });
     const int ergebnis = QApplication::exec();
     klangspieler.soundSchliessen();

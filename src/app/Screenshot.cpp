@@ -4,14 +4,16 @@
 #include <iostream>
 
 #include "Oberflaeche.h"
-#include "Tischoptionen.h"
 #include "settings/Optionsdatei.h"
 #include "settings/Tonausgabe.h"
 #include "engine/Spielablauf.h"
 #include "engine/Zufall.h"
 #include "players/EinfacheSpieler.h"
+#include "settings/Benutzerspeicher.h"
+#include "table/Dateiwahl.h"
 #include "table/Hauptfenster.h"
 #include "table/Tischansicht.h"
+#include "table/Tischprogramm.h"
 #include "table/Tischsteuerung.h"
 
 namespace app {
@@ -58,7 +60,10 @@ int screenshotSchreiben(const Aufruf& aufruf, int& argc, char** argv) {
     // The options of the user, so the picture shows the table as it would look.
     const settings::Einstellungen einstellungen =
         settings::EinstellungenLesen(settings::optionsdateiPfad(), settings::startLesekontext());
-    einstellungenUebernehmen(steuerung, einstellungen);
+    settings::Benutzerspeicher speicher;
+    table::Dateidialoge dateidialoge;
+    table::Tischprogramm programm(hfo, steuerung, speicher, dateidialoge, settings::optionsdateiPfad());
+    programm.EinstUebernehmen(einstellungen, programm.benutzer());
     hfo.resize(1024, 768);
     hfo.show();
     steuerung.fortsetzen(spielMitten(seed, einstellungen));

@@ -6,11 +6,13 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
+#include <QStyle>
 
 #include "Kartenbilder.h"
 #include "Tischansicht.h"
 #include "Tischtexte.h"
 #include "engine/Spielablauf.h"
+#include "savegame/Partietexte.h"
 
 namespace table {
 
@@ -41,18 +43,21 @@ void Hauptfenster::menuesAnlegen() {
         return a;
     };
     QMenu* spiel = menuBar()->addMenu(t(texte::MenuSpiel));
+    spielMenue_ = spiel;
     neuePartie_ = aktion(spiel, t(texte::NeuePartie), "m_neue_partie");
     neuePartie_->setShortcut(QKeySequence(Qt::Key_F2));
     spiel->addSeparator();
-    laden_ = aktion(spiel, t(texte::PartieLaden), "m_laden");
-    speichern_ = aktion(spiel, t(texte::PartieSpeichern), "m_speichern");
+    laden_ = aktion(spiel, t(savegame::texte::MenueLaden), "m_partie_laden");
+    laden_->setShortcut(QKeySequence::Open);
+    speichern_ = aktion(spiel, t(savegame::texte::MenueSpeichern), "m_partie_speichern");
+    speichern_->setShortcut(QKeySequence::Save);
     spiel->addSeparator();
     einstellungen_ = aktion(spiel, t(texte::EinstellungenMenue), "m_einstellungen");
     netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "m_netzprotokoll");
+    netzprotokoll_->setEnabled(false);  // network play is later work
     spiel->addSeparator();
     ende_ = aktion(spiel, t(texte::Ende), "m_ende");
     ende_->setShortcut(QKeySequence(Qt::ALT | Qt::Key_F4));
-    for (QAction* spaeter : {laden_, speichern_, einstellungen_, netzprotokoll_}) spaeter->setEnabled(false);
 
     QMenu* ansagen = menuBar()->addMenu(t(texte::MenuAnsagen));
     reKontra_ = aktion(ansagen, t(engine::ansagetext::ReAusrufen), "m_ansage");
@@ -73,6 +78,14 @@ void Hauptfenster::menuesAnlegen() {
     ansicht->addSeparator();
     msgboxen_ = aktion(ansicht, t(texte::MsgboxenZeigen), "m_msgboxen_zeigen");
     msgboxen_->setCheckable(true);
+    ansicht->addSeparator();
+    vollbild_ = aktion(ansicht, t(texte::VollbildMenue), "m_vollbild");
+    vollbild_->setCheckable(true);
+    vollbild_->setShortcut(QKeySequence(Qt::Key_F11));
+
+    QMenu* hilfe = menuBar()->addMenu(t(texte::MenuHilfe));
+    regeln_ = aktion(hilfe, t(texte::SpielregelnMenue), "m_spielregeln");
+    regeln_->setShortcut(QKeySequence(Qt::Key_F1));
 
     // Straight in the menu bar, as a button.
     automatik_ = menuBar()->addAction(t(engine::ablauftext::AutomatischSpielen));
@@ -111,6 +124,16 @@ void Hauptfenster::automatikAnzeigen(bool laeuft) {
 void Hauptfenster::partieendeAnzeigen(bool ende) {
     setWindowTitle(t(texte::Fenstertitel) + (ende ? t(texte::Partieende) : QString()));
 }
+
+void Hauptfenster::symboleZeigen(bool an) {
+    const std::pair<QAction*, QStyle::StandardPixmap> symbole[] = {
+        {neuePartie_, QStyle::SP_FileIcon},        {laden_, QStyle::SP_DialogOpenButton},
+        {speichern_, QStyle::SP_DialogSaveButton}, {einstellungen_, QStyle::SP_FileDialogDetailedView},
+        {ende_, QStyle::SP_DialogCloseButton},     {regeln_, QStyle::SP_DialogHelpButton}};
+    for (const auto& [a, bild] : symbole) a->setIcon(an ? style()->standardIcon(bild) : QIcon());
+}
+
+void Hauptfenster::automatikEintragZeigen(bool an) { automatik_->setVisible(an); }
 
 int Hauptfenster::msgBoxModus() const { return msgboxen_->isChecked() ? 1 : 3; }
 

@@ -36,10 +36,13 @@ public:
     QAction* letzterStichAktion() const { return letzterStich_; }
     QAction* alleSticheAktion() const { return alleStiche_; }
     QAction* spielzettelAktion() const { return spielzettel_; }
-    // Entries of later work: loading, saving, settings, network.
     QAction* ladenAktion() const { return laden_; }
     QAction* speichernAktion() const { return speichern_; }
     QAction* einstellungenAktion() const { return einstellungen_; }
+    QAction* vollbildAktion() const { return vollbild_; }
+    QAction* regelnAktion() const { return regeln_; }
+    QMenu* spielMenue() const { return spielMenue_; }
+    // Network play is later work.
     QAction* netzprotokollAktion() const { return netzprotokoll_; }
 
     void statusSetzen(const QString& text);
@@ -47,6 +50,9 @@ public:
     void ansagemenueSetzen(const engine::Ansagemenue& menue);
     void automatikAnzeigen(bool laeuft);
     void partieendeAnzeigen(bool ende);
+    // "Iconen": symbols beside the menu entries; "Automatic": the automatic-play entry.
+    void symboleZeigen(bool an);
+    void automatikEintragZeigen(bool an);
     // `MsgBoxModus`: 1 while the reasoning switch is checked, 3 otherwise.
     int msgBoxModus() const;
     // Whether "&Neue Partie" has to ask before it throws the running Partie away.
@@ -91,6 +97,9 @@ private:
     QAction* speichern_ = nullptr;
     QAction* einstellungen_ = nullptr;
     QAction* netzprotokoll_ = nullptr;
+    QAction* vollbild_ = nullptr;
+    QAction* regeln_ = nullptr;
+    QMenu* spielMenue_ = nullptr;
     bool partieUnterwegs_ = false;
     bool beendenBestaetigt_ = false;
 };

@@ -17,26 +17,6 @@ int parteibildFuer(engine::Sitz sitz, int parteiBekannt) {
     }
 }
 
-engine::ProSitz<int> oeffentlicheParteibilder(const engine::Spiel& spiel) {
-    engine::ProSitz<int> bekannt;
-    bekannt[engine::Sitz(1)] = spiel.partei[engine::Sitz(1)];
-    int reBekannt = 0;
-    for (const engine::Sitz s : engine::alleSitze) {
-        if (spiel.solist || spiel.parteiMarker[s] == engine::ParteiRe) bekannt[s] = spiel.partei[s];
-        if (spiel.hochzeiter && (spiel.hochzeitGeklaert || spiel.hochzeiter == s)) bekannt[s] = spiel.partei[s];
-        reBekannt += engine::seite(bekannt[s]) == engine::ParteiRe && bekannt[s] != engine::ParteiUnbekannt;
-    }
-    // Holding both Kreuz-Damen, seat 1 knows everybody else plays Kontra.
-    const bool stillesSoloVonSitz1 = spiel.partei[engine::Sitz(1)] == engine::ParteiSolo && !spiel.solo && !spiel.hochzeiter;
-    for (const engine::Sitz s : engine::alleSitze) {
-        if (reBekannt >= 2) bekannt[s] = spiel.partei[s];
-        if (stillesSoloVonSitz1 && bekannt[s] == engine::ParteiUnbekannt) bekannt[s] = engine::ParteiKontra;
-    }
-    engine::ProSitz<int> bilder;
-    for (const engine::Sitz s : engine::alleSitze) bilder[s] = parteibildFuer(s, bekannt[s]);
-    return bilder;
-}
-
 void parteibildMalen(QPainter& maler, const QRectF& feld, int bild) {
     if (bild < 1 || bild > AnzahlParteibilder) return;
     const int art = (bild + 1) / 2;  // 1 unknown, 2 Kontra, 3 Re

@@ -14,10 +14,6 @@ inline constexpr int AnzahlParteibilder = 6;
 // The picture for what is known of a seat's party (0 unknown, 1 Kontra, 2 or 3 Re).
 int parteibildFuer(engine::Sitz sitz, int parteiBekannt);
 
-// The pictures for what everybody at the table knows: seat 1 its own party, a
-// declared solo, a Kreuz-Dame played; once both Re seats are known, everything.
-engine::ProSitz<int> oeffentlicheParteibilder(const engine::Spiel& spiel);
-
 void parteibildMalen(QPainter& maler, const QRectF& feld, int bild);
 
 }  // namespace table

@@ -92,6 +92,13 @@ void Tischansicht::setzeStichSichtbar(bool sichtbar) {
 
 bool Tischansicht::bewegtSich() const { return bewegung_.has_value(); }
 
+void Tischansicht::bewegungAbbrechen() {
+    ++bewegungNr_;
+    animation_->stop();
+    bewegung_.reset();
+    update();
+}
+
 void Tischansicht::karteFliegen(int pos, Sitz sitz) {
     const Tischlayout l = layout();
     Kartenplatz von{l.handmitte(sitz), sitz.nr() == 2 ? 90.0 : sitz.nr() == 4 ? -90.0 : 0.0};
@@ -125,7 +132,10 @@ void Tischansicht::bewegen(std::vector<int> karten, std::vector<Kartenplatz> von
     bewegung_ = Bewegung{std::move(karten), std::move(von), std::move(nach), ausblenden, 0};
     animation_->setDuration(optionen_.animation ? (ausblenden ? 320 : 260) : 0);
     // A zero duration still finishes through the event loop, so callers see one order of events.
-    QTimer::singleShot(0, animation_, [this] { animation_->start(); });
+    const int nr = ++bewegungNr_;
+    QTimer::singleShot(0, animation_, [this, nr] {
+        if (nr == bewegungNr_) animation_->start();
+    });
     update();
 }
 
@@ -364,7 +374,7 @@ void Tischansicht::handMalen(QPainter& maler, const Tischlayout& l) const {
         maler.rotate(plaetze[i].winkel);
         const QRectF rahmen(QPointF(-groesse.width() / 2, -groesse.height() / 2), groesse);
         const qreal radius = groesse.width() * 0.07;
-        if (!darf) {
+        if (!darf && optionen_.spielbareHervorheben) {
             // Cards that may not be played now are shaded.
             maler.setPen(Qt::NoPen);
             maler.setBrush(QColor(0, 0, 0, 80));

@@ -29,6 +29,7 @@ public:
     bool kartenwahl() const { return kartenwahl_; }
     // ParteiBild per seat, 0 for none.
     void setzeParteibilder(const engine::ProSitz<int>& bilder);
+    const engine::ProSitz<int>& parteibilder() const { return parteibilder_; }
     void setzeStichSichtbar(bool sichtbar);
 
     // Card movement: a card just played flies from its hand to the trick; a complete
@@ -37,6 +38,8 @@ public:
     void karteFliegen(int pos, engine::Sitz sitz);
     void stichEinsammeln(engine::Sitz gewinner);
     bool bewegtSich() const;
+    // Drops a movement under way without reporting it (the state it showed is gone).
+    void bewegungAbbrechen();
     void neuZeichnen();
 
     // Seat 1's cards left to right, as laid out.
@@ -97,6 +100,7 @@ private:
     };
     std::optional<Bewegung> bewegung_;
     QVariantAnimation* animation_ = nullptr;
+    int bewegungNr_ = 0;  // a start still waiting in the event loop belongs to this movement
 };
 
 }  // namespace table

@@ -1,5 +1,8 @@
 #include "Tischsteuerung.h"
 
+#include <algorithm>
+
+#include <QAction>
 #include <QMessageBox>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -17,7 +20,8 @@
 #include "engine/Neugeben.h"
 #include "engine/Stichspiel.h"
 #include "engine/Vorbehalte.h"
-#include "players/EinfacheSpieler.h"
+#include "Spielercharakter.h"
+#include "players/Spielerarten.h"
 
 namespace table {
 
@@ -48,10 +52,15 @@ int ersteErlaubteKarte(const engine::Spiel& spiel, Sitz sitz) {
 }  // namespace
 
 Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent)
-    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_) {
+    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &begruendungen_) {
     for (const Sitz s : engine::alleSitze) spiel_.namen[s] = "Spieler" + std::to_string(s.nr());
-    entscheider_.fill(std::make_shared<players::KleinsteKarte>());
     ablauf_.meldungenAn(this);
+    ablauf_.beobachterHinzufuegen(&wissen_);
+    wissen_.msgBoxModus = hfo_.msgBoxModus();
+    connect(hfo_.msgboxenAktion(), &QAction::toggled, this, [this] {
+        wissen_.msgBoxModus = hfo_.msgBoxModus();
+        if (wissen_.msgBoxModus != players::MsgBoxZeigen) begruendungen_.verwerfen();
+    });
 
     Tischansicht& tisch = hfo_.tisch();
     tisch.setzeSpiel(&spiel_);
@@ -89,11 +98,30 @@ void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
     hfo_.tisch().update();
 }
 
-void Tischsteuerung::setzeEntscheider(Sitz sitz, std::shared_ptr<engine::Entscheider> entscheider) {
-    entscheider_[sitz] = std::move(entscheider);
+void Tischsteuerung::setzeCharaktere(const engine::ProSitz<int>& charaktere) {
+    charaktere_ = charaktere;
+    // Before the first deal there is no game yet to keep its players.
+    if (!ablauf_.partieLaeuft() && spiel_.ablauf.phase == engine::Spielphase::Geben) spiel_.charakter = charaktere;
 }
 
-engine::Entscheider& Tischsteuerung::entscheider(Sitz sitz) { return *entscheider_[sitz]; }
+void Tischsteuerung::setzeEntscheider(Sitz sitz, std::shared_ptr<engine::Entscheider> entscheider) {
+    entscheider_[sitz] = std::move(entscheider);
+    vorgegeben_[sitz] = true;
+}
+
+void Tischsteuerung::spielerPassend() {
+    players::Spielerumgebung umgebung{wissen_, *zufall_, &begruendungen_};
+    for (const Sitz s : engine::alleSitze) {
+        if (vorgegeben_[s] || (entscheider_[s] && gebaut_[s] == spiel_.charakter[s])) continue;
+        entscheider_[s] = players::spielerErzeugen(spielerartFuer(spiel_.charakter[s]), umgebung);
+        gebaut_[s] = spiel_.charakter[s];
+    }
+}
+
+engine::Entscheider& Tischsteuerung::entscheider(Sitz sitz) {
+    spielerPassend();
+    return *entscheider_[sitz];
+}
 
 void Tischsteuerung::neuePartie() {
     ++schritt_;
@@ -111,14 +139,57 @@ void Tischsteuerung::neuePartie() {
     weiter();
 }
 
-void Tischsteuerung::fortsetzen(const engine::Spiel& stand) {
+void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
     ++schritt_;
     geplant_ = false;
     beschaeftigt_ = false;
+    einsammelnLaeuft_ = false;
+    partieendeGemeldet_ = false;
+    zugGemeldet_ = -1;
+    meldungen_.clear();
+    begruendungen_.verwerfen();
     spiel_ = stand;
-    ablauf_.fortsetzen();
+    hfo_.tisch().bewegungAbbrechen();
     hfo_.tisch().setzeStichSichtbar(true);
+}
+
+void Tischsteuerung::fortsetzen(const engine::Spiel& stand) {
+    zustandUebernehmen(stand);
+    ablauf_.fortsetzen();
+    wissen_.nachvollziehen(spiel_);
     weiter();
+}
+
+void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
+    zustandUebernehmen(stand);
+    // A game saved after its end box was seen is not scored or shown again.
+    const bool schonGewertet = spiel_.ergebnis.gewertet;
+    // The score sheet of the Partie so far, as far as the table of games holds it.
+    zeilen_.clear();
+    const int gespielt = std::min(spiel_.partie.spielNr - (schonGewertet ? 0 : 1),
+                                  static_cast<int>(spiel_.partie.spieltabelle.size()));
+    if (spiel_.regeln.abrOption == 2)
+        for (int i = 0; i < gespielt; ++i) zeilen_.push_back(spiel_.partie.spieltabelle[static_cast<std::size_t>(i)]);
+    letztesSpiel_ = engine::Spiel{};
+    ablauf_.geladenesSpielFortsetzen();
+    wissen_.nachvollziehen(spiel_);
+    hfo_.partieendeAnzeigen(spiel_.ablauf.phase == engine::Spielphase::Partieende);
+    if (schonGewertet && spiel_.ablauf.phase == engine::Spielphase::Spielende) {
+        letztesSpiel_ = spiel_;  // its tricks stay viewable
+        ablauf_.antworten(Antwort::weiter(Anfrageart::NaechstesSpiel));
+    }
+    weiter();
+}
+
+void Tischsteuerung::dialogOffen(bool offen) {
+    imDialog_ = offen;
+    if (!offen) weiter();
+}
+
+bool Tischsteuerung::speicherbar() const {
+    using engine::Spielphase;
+    const Spielphase p = spiel_.ablauf.phase;
+    return p == Spielphase::Kartenspiel || p == Spielphase::StichVoll || p == Spielphase::Partieende;
 }
 
 void Tischsteuerung::planen(int ms, void (Tischsteuerung::*schritt)()) {
@@ -128,6 +199,7 @@ void Tischsteuerung::planen(int ms, void (Tischsteuerung::*schritt)()) {
     QTimer::singleShot(ms, this, [this, nr, schritt] {
         if (nr != schritt_) return;  // a new Partie began meanwhile
         geplant_ = false;
+        if (imDialog_) return;       // planned again when the dialog closes
         (this->*schritt)();
     });
 }
@@ -157,12 +229,13 @@ void Tischsteuerung::meldungenZeigen() {
 void Tischsteuerung::weiter() {
     if (beschaeftigt_ || imDialog_ || geplant_) return;
     meldungenZeigen();
+    begruendungenZeigen();
     const Anfrage a = ablauf_.anfrage();
     anzeigen(a);
     const bool mensch = a.sitz == Sitz(1) && a.steuerung == Steuerung::Mensch && !spiel_.automatik;
     switch (a.art) {
         case Anfrageart::Geben:
-            ablauf_.antworten(Antwort::zufallsGeben());
+            geben();
             planen(0, &Tischsteuerung::weiter);
             return;
         case Anfrageart::Neugeben:
@@ -206,6 +279,41 @@ void Tischsteuerung::weiter() {
     }
 }
 
+void Tischsteuerung::geben() {
+    // The seat kinds chosen in the settings come in with the deal.
+    spiel_.charakter = charaktere_;
+    if (kartengeber_) {
+        imDialog_ = true;
+        const auto karten = kartengeber_(spiel_);
+        imDialog_ = false;
+        if (karten) {
+            const engine::Bescheid b = ablauf_.antworten(Antwort::geben(*karten));
+            if (b) return;
+            imDialog_ = true;
+            QMessageBox::information(&hfo_, hfo_.windowTitle(), q(b.grund));
+            imDialog_ = false;
+        }
+    }
+    ablauf_.antworten(Antwort::zufallsGeben());
+}
+
+// While the reasoning switch is on, every box is seen before play goes on.
+void Tischsteuerung::begruendungenZeigen() {
+    if (begruendungen_.leer()) return;
+    if (hfo_.msgBoxModus() != players::MsgBoxZeigen) return begruendungen_.verwerfen();
+    imDialog_ = true;
+    begruendungen_.zeigen(&hfo_, spiel_.namen);
+    imDialog_ = false;
+}
+
+engine::ProSitz<int> Tischsteuerung::parteibilder() const {
+    // Until the first trick is taken every seat shows the picture of an unknown party.
+    engine::ProSitz<int> bilder;
+    for (const Sitz s : engine::alleSitze)
+        bilder[s] = wissen_.zeigerBild[s] > 0 ? wissen_.zeigerBild[s] : parteibildFuer(s, engine::ParteiUnbekannt);
+    return bilder;
+}
+
 void Tischsteuerung::anzeigen(const Anfrage& a) {
     Tischansicht& tisch = hfo_.tisch();
     QString status = q(a.status);
@@ -214,7 +322,7 @@ void Tischsteuerung::anzeigen(const Anfrage& a) {
     const bool karte = a.art == Anfrageart::Karte;
     tisch.setzeAmZug(karte ? a.sitz : std::nullopt);
     tisch.setzeKartenwahl(karte && a.sitz == Sitz(1) && a.steuerung == Steuerung::Mensch && !spiel_.automatik);
-    tisch.setzeParteibilder(oeffentlicheParteibilder(spiel_));
+    tisch.setzeParteibilder(parteibilder());
     tisch.neuZeichnen();
     hfo_.ansagemenueSetzen(ablauf_.menue(Sitz(1)));
     hfo_.automatikAnzeigen(spiel_.automatik);
@@ -286,6 +394,9 @@ void Tischsteuerung::computerKarte() {
     if (ablauf_.ansageMoeglich(s))
         if (const auto ansage = e.ansageWaehlen(spiel_, s)) ablauf_.ansagen(s, *ansage);
     int pos = e.karteWaehlen(spiel_, s);
+    // The reasons come before the card, and the card waits until every box is closed.
+    begruendungenZeigen();
+    if (ablauf_.offeneArt() != Anfrageart::Karte || ablauf_.sitzDerAnfrage() != s) return weiter();
     if (!ablauf_.antworten(Antwort::karte(pos))) {
         pos = ersteErlaubteKarte(spiel_, s);
         ablauf_.antworten(Antwort::karte(pos));

@@ -5,15 +5,19 @@
 // window's menus, status line and table in step. Nothing here waits in a loop:
 // every step is a slot that runs when its timer, click or animation is done.
 #include <QObject>
-#include <QPointer>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "Anzeigeoptionen.h"
+#include "Begruendungsanzeige.h"
 #include "Spielzettel.h"
+#include "engine/Geben.h"
 #include "engine/Meldung.h"
 #include "engine/Spielablauf.h"
 #include "engine/Zufall.h"
+#include "players/Tischwissen.h"
 
 namespace table {
 
@@ -37,18 +41,32 @@ public:
     void setzeRegelOptionen(const engine::RegelOptionen& regeln);
     void setzeNamen(const engine::ProSitz<std::string>& namen);
     void setzeTempo(Tempo tempo) { tempo_ = tempo; }
-    // The seat's computer player; seat 1's plays during automatic play.
+    // The seats' "charakter" (kind of computer player); taken over with the next deal.
+    void setzeCharaktere(const engine::ProSitz<int>& charaktere);
+    // Puts a fixed player at a seat instead of the one its character names (tests).
     void setzeEntscheider(engine::Sitz sitz, std::shared_ptr<engine::Entscheider> entscheider);
+    // Asked at every deal; a distribution it returns is dealt instead of a random one.
+    using Kartengeber = std::function<std::optional<engine::Kartenverteilung>(const engine::Spiel&)>;
+    void setzeKartengeber(Kartengeber geber) { kartengeber_ = std::move(geber); }
 
     // Clears the score sheet and starts the first game.
     void neuePartie();
-    // Takes over a game state (a loaded game, a prepared table) and carries on from it.
+    // Takes over a game state (a prepared table) and carries on from its phase.
     void fortsetzen(const engine::Spiel& stand);
+    // Takes over a saved game: its phase follows from the cards played; a finished
+    // game is not scored again, the next one starts.
+    void geladenFortsetzen(const engine::Spiel& stand);
+    // While a dialog of the program is open the game waits; closing it carries on.
+    void dialogOffen(bool offen);
+    // Whether the state is one a saved game can hold (cards are being played, or the Partie is over).
+    bool speicherbar() const;
 
     const engine::Spiel& spiel() const { return spiel_; }
     // The last scored game (its tricks stay viewable while the next one runs).
     const engine::Spiel& letztesSpiel() const { return letztesSpiel_; }
     engine::Spielablauf& ablauf() { return ablauf_; }
+    // What the computer seats believe; it also drives the party pictures.
+    const players::Tischwissen& wissen() const { return wissen_; }
     // The score sheet rows of the running Partie, one per scored game.
     const std::vector<engine::ProSitz<int>>& spielzettelZeilen() const { return zeilen_; }
     Spielzettelinhalt spielzettelInhalt() const;
@@ -87,7 +105,11 @@ private:
     void vorbehaltBeantworten(const engine::Anfrage& a);
     engine::Vorbehalt vorbehaltFragen(const engine::Anfrage& a);
     void computerKarte();
-    void karteSpielen(int pos);
+    void geben();
+    void begruendungenZeigen();
+    void spielerPassend();
+    engine::ProSitz<int> parteibilder() const;
+    void zustandUebernehmen(const engine::Spiel& stand);
     void einsammeln();
     void spielendeZeigen();
     void ansageBescheid(const engine::Bescheid& b);
@@ -99,7 +121,13 @@ private:
     engine::Spielablauf ablauf_;
     Anzeigeoptionen optionen_;
     Tempo tempo_;
+    Begruendungsanzeige begruendungen_;
+    players::Tischwissen wissen_;
+    engine::ProSitz<int> charaktere_{2};
     engine::ProSitz<std::shared_ptr<engine::Entscheider>> entscheider_;
+    engine::ProSitz<int> gebaut_{-1};        // the character each seat's player was made for
+    engine::ProSitz<bool> vorgegeben_{false};  // set from outside, kept whatever the character
+    Kartengeber kartengeber_;
     std::vector<engine::Meldung> meldungen_;
     std::vector<engine::ProSitz<int>> zeilen_;
     engine::Spiel letztesSpiel_;  // the last scored game, for its tricks

@@ -10,8 +10,6 @@ inline constexpr char Aufloesungswarnung[] = "Wir empfehlen eine Bildschirmaufl�
 // Menus.
 inline constexpr char MenuSpiel[] = "&Spiel";
 inline constexpr char NeuePartie[] = "&Neue Partie";
-inline constexpr char PartieLaden[] = "Partie &laden...";
-inline constexpr char PartieSpeichern[] = "Partie &speichern unter...";
 inline constexpr char EinstellungenMenue[] = "&Einstellungen...";
 inline constexpr char NetzprotokollZeigen[] = "&Netzprotokoll zeigen";
 inline constexpr char Ende[] = "&Ende";
@@ -21,6 +19,9 @@ inline constexpr char LetzterStich[] = "&Letzter Stich";
 inline constexpr char AlleStiche[] = "Alle &Stiche des Spiels";
 inline constexpr char Spielzettel[] = "S&pielzettel";
 inline constexpr char MsgboxenZeigen[] = "&Überlegungen der Mitspieler zeigen";
+inline constexpr char VollbildMenue[] = "&Vollbild";
+inline constexpr char MenuHilfe[] = "&Hilfe";
+inline constexpr char SpielregelnMenue[] = "&Spielregeln";
 
 // Status line (the texts of the game cycle come from the engine).
 inline constexpr char Einsammeln[] = "Zum Einsammeln bitte auf den Stich klicken";
@@ -30,6 +31,40 @@ inline constexpr char Augen[] = "Augen: ";
 inline constexpr char ParteiRe[] = "Re";
 inline constexpr char ParteiKontra[] = "Kontra";
 inline constexpr char ParteiUnbekannt[] = "?";
+
+// The computer players' reasoning boxes.
+inline constexpr char UeberlegungVon[] = "Überlegung von ";
+inline constexpr char RegelKennung[] = "Regel ";
+
+// Saving.
+inline constexpr char NichtGespeichert[] = "Die Partie konnte nicht gespeichert werden:\n";
+
+// The welcome screen and the rules page.
+inline constexpr char WillkommenTitel[] = "Willkommen";
+inline constexpr char WillkommenKopf[] = "Willkommen bei Trumpona!";
+inline constexpr char WillkommenText[] =
+    "Doppelkopf zu viert: Sie spielen an Sitz 1 gegen drei Computerspieler. Wie möchten Sie beginnen?";
+inline constexpr char WillkommenNeu[] = "&Neue Partie beginnen";
+inline constexpr char WillkommenLaden[] = "Gespeicherte Partie &laden...";
+inline constexpr char WillkommenRegeln[] = "&Spielregeln lesen";
+inline constexpr char WillkommenAbschalten[] =
+    "Diesen Bildschirm können Sie unter Spiel, Einstellungen, Anzeige abschalten.";
+inline constexpr char RegelnTitel[] = "Spielregeln";
+inline constexpr char IhreRegeln[] = "Ihre Einstellungen";
+inline constexpr char RegelAn[] = "ja";
+inline constexpr char RegelAus[] = "nein";
+inline constexpr char RegelKeine[] = "keine";
+
+// Dealing by hand.
+inline constexpr char VerteilungTitel[] = "Manuelle Kartenverteilung";
+inline constexpr char VerteilungHinweis[] =
+    "Klicken Sie auf eine Karte des Stapels, um sie dem gewählten Spieler zu geben. "
+    "Eine Karte in einer Hand geht mit einem Klick zurück auf den Stapel.";
+inline constexpr char Stapel[] = "Stapel";
+inline constexpr char RestZufaellig[] = "&Rest zufällig verteilen";
+inline constexpr char AllesZurueck[] = "&Alle Karten zurücklegen";
+inline constexpr char NochZuVerteilen[] = "Es sind noch ";
+inline constexpr char KartenZuVerteilen[] = " Karten zu verteilen.";
 
 // The score sheet.
 inline constexpr char PartieendeBei[] = "Partieende bei Überschreiten von ";

@@ -23,8 +23,11 @@ TEST(Hauptfenster, MenueeintraegeMitIhrenTexten) {
         {"m_limit3", "Limitgebot (keine 90)"},
         {"m_limit0", "Limitgebot (kein Stich)"},
         {"m_ende", "&Ende"},
-        {"m_laden", "Partie &laden..."},
-        {"m_speichern", "Partie &speichern unter..."},
+        {"m_partie_laden", "Partie &laden..."},
+        {"m_partie_speichern", "Partie &speichern unter..."},
+        {"m_einstellungen", "&Einstellungen..."},
+        {"m_vollbild", "&Vollbild"},
+        {"m_spielregeln", "&Spielregeln"},
         {"m_netzprotokoll", "&Netzprotokoll zeigen"},
         {"m_msgboxen_zeigen", nullptr},
     };

@@ -19,6 +19,7 @@
 #include "table/Spielzettel.h"
 #include "table/Tischansicht.h"
 #include "table/Handordnung.h"
+#include "table/Parteizeiger.h"
 #include "table/Tischsteuerung.h"
 
 namespace {
@@ -95,7 +96,15 @@ struct Menuestand {
     int kartenImStich;
     bool reKontra;
     bool limits;
+    engine::ProSitz<int> parteibilder;  // as the table shows them
+    engine::ProSitz<int> zeigerBild;    // as the computer players' knowledge has them
 };
+
+engine::ProSitz<int> unbekannteBilder() {
+    engine::ProSitz<int> b;
+    for (const Sitz s : engine::alleSitze) b[s] = table::parteibildFuer(s, engine::ParteiUnbekannt);
+    return b;
+}
 
 TEST_F(TischsteuerungTest, GanzesSpielMitGeklicktenKartenVonSitz1) {
     table::Tischansicht& tisch = hfo_.tisch();
@@ -107,7 +116,7 @@ TEST_F(TischsteuerungTest, GanzesSpielMitGeklicktenKartenVonSitz1) {
     QObject::connect(&spieler, &QTimer::timeout, [&] {
         if (!tisch.kartenwahl() || QApplication::activeModalWidget()) return;
         menues.push_back({spiel.sticheGespielt, spiel.stich.anzahl, hfo_.reKontraAktion()->isEnabled(),
-                          hfo_.limitMenue()->isEnabled()});
+                          hfo_.limitMenue()->isEnabled(), tisch.parteibilder(), steuerung_.wissen().zeigerBild});
         int wahl = 0;
         for (int pos : tisch.handfolge()) {
             const bool erlaubt = engine::karteErlaubt(spiel, Sitz(1), pos);
@@ -158,6 +167,17 @@ TEST_F(TischsteuerungTest, GanzesSpielMitGeklicktenKartenVonSitz1) {
         }
         EXPECT_EQ(m.limits, frist && (m.sticheGespielt > 0 || m.kartenImStich > 0)) << m.sticheGespielt;
     }
+
+    // The party pictures are the computer players' indicator: unknown until a trick
+    // is taken, then what the table knows; seat 1 always knows its own party.
+    for (const auto& m : menues) {
+        if (m.sticheGespielt == 0) {
+            EXPECT_EQ(m.parteibilder, unbekannteBilder());
+        } else {
+            EXPECT_EQ(m.parteibilder, m.zeigerBild) << m.sticheGespielt;
+            EXPECT_NE(m.parteibilder[Sitz(1)], unbekannteBilder()[Sitz(1)]) << m.sticheGespielt;
+        }
+    }
 }
 
 TEST_F(TischsteuerungTest, FalscheKarteBleibtInDerHand) {
@@ -205,6 +225,72 @@ TEST_F(TischsteuerungTest, AutomatikSpieltEinSpielZuEnde) {
     EXPECT_EQ(boxen_.spielende.front(), QString::fromStdString(steuerung_.letztesSpiel().ergebnis.text));
     hfo_.automatikAktion()->trigger();
     EXPECT_EQ(hfo_.automatikAktion()->text(), QStringLiteral(" &Automatisch spielen "));
+}
+
+// Reasoning boxes: with the switch on every rule that fires is shown, and the table
+// waits while a box is open; with it off none appears.
+TEST_F(TischsteuerungTest, UeberlegungenNurMitSchalterUndPlanvoll) {
+    for (const bool schalter : {true, false}) {
+        table::Hauptfenster hfo;
+        table::Tischsteuerung steuerung(hfo, std::make_unique<engine::SeedZufall>(77));
+        table::Anzeigeoptionen optionen;
+        optionen.animation = false;
+        optionen.boxen = false;
+        steuerung.setzeOptionen(optionen);
+        steuerung.setzeTempo({0, 0});
+        hfo.msgboxenAktion()->setChecked(schalter);
+        EXPECT_EQ(steuerung.wissen().msgBoxModus, schalter ? 1 : 3);
+        pumpe_.stop();
+
+        const engine::Spiel& spiel = steuerung.spiel();
+        auto kartenGespielt = [&] { return spiel.sticheGespielt * 4 + spiel.stich.anzahl; };
+        int regelboxen = 0;
+        int weitergelaufen = 0;
+        QWidget* offen = nullptr;
+        int gesehen = 0;
+        int kartenBeimOeffnen = 0;
+        QStringList titel;
+        QTimer person;
+        QObject::connect(&person, &QTimer::timeout, [&] {
+            QWidget* modal = QApplication::activeModalWidget();
+            auto* box = qobject_cast<QMessageBox*>(modal);
+            if (!box) {
+                if (modal) boxen_.beantworten(modal);
+                return;
+            }
+            if (box != offen) {
+                offen = box;
+                gesehen = 0;
+                kartenBeimOeffnen = kartenGespielt();
+            }
+            // A box stays open for a few ticks: the game must not go on meanwhile.
+            if (++gesehen < 4) return;
+            if (kartenGespielt() != kartenBeimOeffnen) ++weitergelaufen;
+            if (box->windowTitle().startsWith(QStringLiteral("Überlegung von "))) {
+                ++regelboxen;
+                titel << box->windowTitle();
+                EXPECT_FALSE(box->text().isEmpty());
+            }
+            offen = nullptr;
+            box->button(QMessageBox::Ok) ? box->button(QMessageBox::Ok)->click() : box->buttons().first()->click();
+        });
+        person.start(1);
+        QSignalSpy gewertet(&steuerung, &table::Tischsteuerung::spielGewertet);
+        steuerung.neuePartie();
+        hfo.automatikAktion()->trigger();
+        ASSERT_TRUE(gewertet.wait(120000));
+        person.stop();
+        pumpe_.start(2);
+
+        EXPECT_EQ(weitergelaufen, 0);
+        if (schalter) {
+            // Every computer card is reasoned; seat 1's too while the computer plays it.
+            EXPECT_GE(regelboxen, 40);
+            EXPECT_TRUE(titel.contains(QStringLiteral("Überlegung von Spieler3")));
+        } else {
+            EXPECT_EQ(regelboxen, 0);
+        }
+    }
 }
 
 }  // namespace

@@ -1,0 +1,237 @@
+#include "Tischprogramm.h"
+
+#include <QAction>
+#include <QDir>
+#include <QMenu>
+#include <QMessageBox>
+#include <QRandomGenerator>
+
+#include "Dateiwahl.h"
+#include "Einstellform.h"
+#include "Hauptfenster.h"
+#include "Kartenbilder.h"
+#include "Regelseite.h"
+#include "Stichbetrachter.h"
+#include "Tischsteuerung.h"
+#include "Tischtexte.h"
+#include "Verteilungsdialog.h"
+#include "Willkommen.h"
+#include "engine/Spielablauf.h"
+#include "engine/Zufall.h"
+#include "savegame/Ladeablauf.h"
+#include "savegame/Partiespeicher.h"
+#include "savegame/Partietexte.h"
+#include "settings/Benutzerspeicher.h"
+
+namespace table {
+
+namespace {
+
+QString t(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+
+void melden(QWidget* eltern, const savegame::Meldung& m) {
+    const QString titel = QString::fromUtf8(texte::Fenstertitel);
+    const QString text = QString::fromStdString(m.text);
+    switch (m.symbol) {
+        case savegame::Symbol::Kritisch: QMessageBox::critical(eltern, titel, text); break;
+        case savegame::Symbol::Information: QMessageBox::information(eltern, titel, text); break;
+        case savegame::Symbol::Ohne: {
+            QMessageBox box(QMessageBox::NoIcon, titel, text, QMessageBox::Ok, eltern);
+            box.exec();
+            break;
+        }
+    }
+}
+
+// The program's own dialogs hold the game until they are closed.
+class Pause {
+public:
+    explicit Pause(Tischsteuerung& s) : s_(s) { s_.dialogOffen(true); }
+    ~Pause() { s_.dialogOffen(false); }
+    Pause(const Pause&) = delete;
+    Pause& operator=(const Pause&) = delete;
+
+private:
+    Tischsteuerung& s_;
+};
+
+}  // namespace
+
+Tischprogramm::Tischprogramm(Hauptfenster& hfo, Tischsteuerung& steuerung, settings::Benutzerspeicher& speicher,
+                             Dateiwahl& dateiwahl, QString optionsdatei, QObject* parent)
+    : QObject(parent),
+      hfo_(hfo),
+      steuerung_(steuerung),
+      speicher_(speicher),
+      dateiwahl_(dateiwahl),
+      optionsdatei_(std::move(optionsdatei)),
+      benutzer_(benutzereinstellungenLesen(speicher)) {
+    connect(hfo_.einstellungenAktion(), &QAction::triggered, this, &Tischprogramm::einstellungenZeigen);
+    connect(hfo_.speichernAktion(), &QAction::triggered, this, &Tischprogramm::m_partie_speichern_Click);
+    connect(hfo_.ladenAktion(), &QAction::triggered, this, &Tischprogramm::m_partie_laden_Click);
+    connect(hfo_.regelnAktion(), &QAction::triggered, this, &Tischprogramm::regelnZeigen);
+    connect(hfo_.spielMenue(), &QMenu::aboutToShow, this, &Tischprogramm::menueAnpassen);
+    connect(hfo_.vollbildAktion(), &QAction::triggered, this, [this](bool an) {
+        einstellungen_.vollbild = an ? -1 : 0;
+        fensterZeigen();
+    });
+    steuerung_.setzeKartengeber([this](const engine::Spiel& spiel) { return kartenGeben(spiel); });
+}
+
+void Tischprogramm::EinstUebernehmen(const settings::Einstellungen& e, const Benutzereinstellungen& b) {
+    const bool vollbildVorher = einstellungen_.vollbild != 0;
+    einstellungen_ = e;
+    benutzer_ = b;
+    steuerung_.setzeOptionen(anzeigeoptionen(e));
+    steuerung_.setzeRegelOptionen(e.regeln);
+    engine::ProSitz<std::string> namen;
+    engine::ProSitz<int> charaktere;
+    for (const engine::Sitz s : engine::alleSitze) {
+        namen[s] = e.namen[static_cast<std::size_t>(s.nr() - 1)];
+        charaktere[s] = e.charakter[static_cast<std::size_t>(s.nr() - 1)];
+    }
+    steuerung_.setzeNamen(namen);
+    steuerung_.setzeCharaktere(charaktere);
+    hfo_.symboleZeigen(e.iconen != 0);
+    hfo_.automatikEintragZeigen(e.automatic != 0);
+    hfo_.vollbildAktion()->setChecked(e.vollbild != 0);
+    if (hfo_.isVisible() && vollbildVorher != (e.vollbild != 0)) fensterZeigen();
+    emit einstellungenUebernommen(e);
+}
+
+void Tischprogramm::fensterZeigen() {
+    if (einstellungen_.vollbild != 0) hfo_.showFullScreen();
+    else if (hfo_.isFullScreen()) hfo_.showNormal();
+    else hfo_.show();
+    hfo_.vollbildAktion()->setChecked(einstellungen_.vollbild != 0);
+}
+
+void Tischprogramm::starten(const QString& ladeDatei) {
+    if (!ladeDatei.isEmpty()) {
+        partieLaden(ladeDatei);
+        // A file that is no saved game leaves nothing to play on: a new Partie begins.
+        if (!steuerung_.ablauf().partieLaeuft() && steuerung_.spiel().ablauf.phase == engine::Spielphase::Geben)
+            steuerung_.neuePartie();
+        return;
+    }
+    if (einstellungen_.willkommen != 0) willkommen_zeigen();
+    else steuerung_.neuePartie();
+}
+
+void Tischprogramm::willkommen_zeigen() {
+    Willkommen willkommen(einstellungen_.regeln, &hfo_);
+    willkommen.exec();
+    if (willkommen.wahl() == Willkommen::Wahl::Laden) {
+        m_partie_laden_Click();
+        if (steuerung_.spiel().ablauf.phase != engine::Spielphase::Geben || steuerung_.ablauf().partieLaeuft()) return;
+    }
+    steuerung_.neuePartie();
+}
+
+void Tischprogramm::einstellungenZeigen() {
+    Pause pause(steuerung_);
+    Einstellform form(einstellungen_, benutzer_, {speicher_, optionsdatei_, dateiwahl_, kontext_}, &hfo_);
+    connect(&form, &Einstellform::zurueckgesetzt, this, &Tischprogramm::programmEndeVerlangt);
+    if (form.exec() == QDialog::Accepted) EinstUebernehmen(form.einstellungen(), form.benutzer());
+}
+
+void Tischprogramm::regelnZeigen() {
+    Pause pause(steuerung_);
+    Regelseite seite(einstellungen_.regeln, &hfo_);
+    seite.exec();
+}
+
+void Tischprogramm::menueAnpassen() { hfo_.speichernAktion()->setEnabled(steuerung_.speicherbar()); }
+
+savegame::Spielstand Tischprogramm::spielstand() const {
+    savegame::Spielstand stand;
+    stand.spiel = steuerung_.spiel();
+    stand.optionen = einstellungen_.regeln;
+    savegame::Tischanzeige& anzeige = stand.tisch;
+    anzeige.kontraGebenAktiv = hfo_.reKontraAktion()->isEnabled();
+    anzeige.kontraGebenText = hfo_.reKontraAktion()->text().toStdString();
+    for (std::size_t code = 0; code < anzeige.unterHaken.size(); ++code)
+        anzeige.unterHaken[code] = hfo_.limitAktion(static_cast<int>(code))->isChecked();
+    anzeige.limitAktiv = hfo_.limitMenue()->isEnabled();
+    anzeige.limitText = hfo_.limitMenue()->title().toStdString();
+    for (const engine::Sitz s : engine::alleSitze)
+        anzeige.sitzAnzeige[static_cast<std::size_t>(s.nr() - 1)] = stand.spiel.augen[s];
+    return stand;
+}
+
+void Tischprogramm::m_partie_speichern_Click() {
+    if (!steuerung_.speicherbar()) return;
+    Pause pause(steuerung_);
+    // Taken before the dialog: what the person saw when choosing to save.
+    const savegame::Spielstand stand = spielstand();
+    const QString pfad = dateiwahl_.speichern(&hfo_, {t(savegame::texte::SpeichernTitel), savegame::letzterOrdner(speicher_),
+                                                       savegame::texte::SpeichernFilter, savegame::texte::DateiEndung});
+    if (pfad.isEmpty()) return;
+    savegame::ordnerMerken(speicher_, pfad);
+    if (!savegame::PartieSpeichern(pfad, stand))
+        QMessageBox::critical(&hfo_, QString::fromUtf8(texte::Fenstertitel),
+                              QString::fromUtf8(texte::NichtGespeichert) + QDir::toNativeSeparators(pfad));
+}
+
+void Tischprogramm::m_partie_laden_Click() {
+    QString pfad;
+    {
+        Pause pause(steuerung_);
+        pfad = dateiwahl_.oeffnen(&hfo_, {t(savegame::texte::LadenTitel), savegame::letzterOrdner(speicher_),
+                                          savegame::texte::LadenFilter, savegame::texte::DateiEndung});
+    }
+    if (pfad.isEmpty()) return;
+    savegame::ordnerMerken(speicher_, pfad);
+    partieLaden(pfad);
+}
+
+void Tischprogramm::partieLaden(const QString& pfad) {
+    savegame::Spielstand stand;
+    savegame::Weiter weiter = savegame::Weiter::LaufendesSpiel;
+    {
+        Pause pause(steuerung_);
+        // Groups an older file lacks keep the values the table has now.
+        stand.spiel = steuerung_.spiel();
+        stand.optionen = einstellungen_.regeln;
+        const savegame::Leseergebnis ergebnis = savegame::PartieLaden(pfad, stand);
+        const savegame::Ladeablauf ablauf = savegame::ladeablauf(ergebnis, stand);
+        weiter = ablauf.weiter;
+        for (const savegame::Meldung& m : ablauf.meldungen) melden(&hfo_, m);
+        if (ablauf.sticheFragen) {
+            const bool ansehen =
+                QMessageBox::question(&hfo_, QString::fromUtf8(texte::Fenstertitel), t(savegame::texte::SticheAnsehen),
+                                      QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+            for (const savegame::Meldung& m : ablauf.nachDerFrage) melden(&hfo_, m);
+            if (ansehen && !stand.spiel.stiche.empty()) {
+                Stichbetrachter betrachter(hfo_.bilder(), &hfo_);
+                const int letzter = static_cast<int>(stand.spiel.stiche.size()) - 1;
+                betrachter.setzeStiche(stand.spiel, stand.spiel.stiche, std::clamp(ablauf.stichansichtBeiJa - 1, 0, letzter));
+                betrachter.exec();
+            }
+        }
+    }
+    switch (weiter) {
+        case savegame::Weiter::LaufendesSpiel: return;
+        case savegame::Weiter::NeuePartie: steuerung_.neuePartie(); return;
+        case savegame::Weiter::NaechstesSpiel:
+        case savegame::Weiter::Fortsetzen: break;
+    }
+    // The rule options of the file hold for the running program from now on.
+    einstellungen_.regeln = stand.optionen;
+    steuerung_.setzeRegelOptionen(stand.optionen);
+    steuerung_.geladenFortsetzen(stand.spiel);
+}
+
+std::optional<engine::Kartenverteilung> Tischprogramm::kartenGeben(const engine::Spiel& spiel) {
+    if (!benutzer_.manuelleVerteilung) return std::nullopt;
+    QMessageBox frage(QMessageBox::Question, QString::fromUtf8(texte::Fenstertitel),
+                      t(engine::ablauftext::ManuelleVerteilung), QMessageBox::Yes | QMessageBox::No, &hfo_);
+    frage.setDefaultButton(QMessageBox::No);
+    if (frage.exec() != QMessageBox::Yes) return std::nullopt;
+    engine::SeedZufall zufall(QRandomGenerator::global()->generate64());
+    Verteilungsdialog dialog(hfo_.bilder(), spiel.regeln.kartenanzahl, spiel.regeln.joker, spiel.namen, zufall, &hfo_);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.verteilung().verteilung();
+}
+
+}  // namespace table

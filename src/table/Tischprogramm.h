@@ -1,0 +1,77 @@
+#pragma once
+// What the desktop program does around the game: it holds the live options and
+// takes changed ones over (EinstUebernehmen), opens the settings dialog, saves
+// and loads a Partie, shows the welcome screen at the first new Partie and asks
+// for a deal by hand. The controller plays; the main window shows.
+#include <QObject>
+#include <optional>
+
+#include "Benutzereinstellungen.h"
+#include "engine/Geben.h"
+#include "savegame/Spielstand.h"
+#include "settings/Einstellungen.h"
+
+namespace settings {
+class Benutzerspeicher;
+}
+
+namespace table {
+
+class Dateiwahl;
+class Hauptfenster;
+class Tischsteuerung;
+
+class Tischprogramm : public QObject {
+    Q_OBJECT
+public:
+    Tischprogramm(Hauptfenster& hfo, Tischsteuerung& steuerung, settings::Benutzerspeicher& speicher,
+                  Dateiwahl& dateiwahl, QString optionsdatei, QObject* parent = nullptr);
+
+    const settings::Einstellungen& einstellungen() const { return einstellungen_; }
+    const Benutzereinstellungen& benutzer() const { return benutzer_; }
+    void setzeLesekontext(const settings::Lesekontext& kontext) { kontext_ = kontext; }
+
+    // Takes changed options into the running program: display, names and sound at
+    // once, the rules and the seats' players with the next game.
+    void EinstUebernehmen(const settings::Einstellungen& e, const Benutzereinstellungen& b);
+
+    // The first new Partie after the start: the welcome screen when it is wanted,
+    // or the saved Partie named on the command line.
+    void starten(const QString& ladeDatei = {});
+
+    // The window as the options want it: full screen or with its own frame.
+    void fensterZeigen();
+
+    // The state a saved file gets (also for tests).
+    savegame::Spielstand spielstand() const;
+
+signals:
+    // Sound options or card names changed; the sound player follows.
+    void einstellungenUebernommen(const settings::Einstellungen& e);
+    // The settings were reset: the program ends without writing anything back.
+    void programmEndeVerlangt();
+
+public slots:
+    void willkommen_zeigen();
+    void einstellungenZeigen();
+    void regelnZeigen();
+    void m_partie_speichern_Click();
+    void m_partie_laden_Click();
+    // The loading flow for a file: its messages, the finished-game question, resuming.
+    void partieLaden(const QString& pfad);
+
+private:
+    std::optional<engine::Kartenverteilung> kartenGeben(const engine::Spiel& spiel);
+    void menueAnpassen();
+
+    Hauptfenster& hfo_;
+    Tischsteuerung& steuerung_;
+    settings::Benutzerspeicher& speicher_;
+    Dateiwahl& dateiwahl_;
+    QString optionsdatei_;
+    settings::Lesekontext kontext_;
+    settings::Einstellungen einstellungen_;
+    Benutzereinstellungen benutzer_;
+};
+
+}  // namespace table

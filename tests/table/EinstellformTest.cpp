@@ -1,0 +1,348 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <map>
+
+#include "Modal.h"
+#include "QtAusgabe.h"
+#include "Testdateiwahl.h"
+#include "settings/Benutzerspeicher.h"
+#include "settings/Optionsdatei.h"
+#include "table/Einstellelemente.h"
+#include "table/Einstellform.h"
+
+namespace {
+
+using settings::Einstellungen;
+
+// With TRUMPONA_TESTBILDER set each tab is kept as a picture for looking at.
+void bildAblegen(QWidget& w, const QString& name) {
+    const QString ordner = qEnvironmentVariable("TRUMPONA_TESTBILDER");
+    if (!ordner.isEmpty()) w.grab().save(QDir(ordner).filePath(name + QStringLiteral(".png")));
+}
+
+// Changes a control to another value it offers and returns the value as the file keeps it.
+int aendern(QWidget* w) {
+    if (auto* c = qobject_cast<QCheckBox*>(w)) {
+        c->setChecked(!c->isChecked());
+        return c->isChecked() ? -1 : 0;
+    }
+    if (auto* l = qobject_cast<QComboBox*>(w)) {
+        l->setCurrentIndex((l->currentIndex() + 1) % l->count());
+        return l->currentData().toInt();
+    }
+    if (auto* s = qobject_cast<QSpinBox*>(w)) {
+        s->setValue(s->value() < s->maximum() ? s->value() + 1 : s->value() - 1);
+        return s->value();
+    }
+    if (auto* g = qobject_cast<table::Wahlgruppe*>(w)) {
+        for (auto* k : g->findChildren<QRadioButton*>())
+            if (!k->isChecked()) {
+                k->setChecked(true);
+                break;
+            }
+        return g->wert();
+    }
+    if (auto* f = qobject_cast<table::Farbknopf*>(w)) {
+        f->setzeWert(f->wert() ^ 0x203040);
+        return f->wert();
+    }
+    ADD_FAILURE() << "unbekanntes Feld " << w->objectName().toStdString();
+    return 0;
+}
+
+class EinstellformTest : public ::testing::Test {
+protected:
+    EinstellformTest() { speicher_.zuruecksetzen(optionsdatei_); }
+
+    table::Einstellumgebung umgebung() { return {speicher_, optionsdatei_, wahl_, settings::Lesekontext{}}; }
+
+    QTemporaryDir ordner_;
+    QString optionsdatei_ = ordner_.filePath(QStringLiteral("rupalive.ini"));
+    settings::Benutzerspeicher speicher_;
+    testhilfe::Testdateiwahl wahl_;
+};
+
+// Every key read from the options file, and the key the writer uses for it.
+std::string schreibschluessel(std::string_view lese) { return lese == "Solo" ? "Pflichtsolo" : std::string(lese); }
+
+TEST_F(EinstellformTest, JedeGeaenderteOptionErreichtDieDateiNurMitSpeichernJn) {
+    for (const bool speichern : {true, false}) {
+        QFile::remove(optionsdatei_);
+        speicher_.zuruecksetzen(optionsdatei_);
+        table::Einstellform form(Einstellungen{}, table::Benutzereinstellungen{}, umgebung());
+        std::map<std::string, int> erwartet;
+        for (const std::string_view schluessel : settings::leseschluessel()) {
+            if (schluessel == "Joker") continue;  // it overrides the Dollen: see the interlock test
+            QWidget* w = form.findChild<QWidget*>(QString::fromUtf8(schluessel.data(), static_cast<qsizetype>(schluessel.size())));
+            ASSERT_NE(w, nullptr) << schluessel;
+            erwartet[std::string(schluessel)] = aendern(w);
+        }
+        for (int sitz = 1; sitz <= 4; ++sitz) {
+            form.findChild<QLineEdit*>(QStringLiteral("Name%1").arg(sitz))->setText(QStringLiteral("Jörg, %1").arg(sitz));
+            erwartet["charakter" + std::to_string(sitz)] =
+                aendern(form.findChild<QComboBox*>(QStringLiteral("charakter%1").arg(sitz)));
+        }
+        form.findChild<QSpinBox*>(QStringLiteral("Serverport"))->setValue(7123);
+        form.findChild<QLineEdit*>(QStringLiteral("IRCServer"))->setText(QStringLiteral("irc.example"));
+        form.findChild<QCheckBox*>(QStringLiteral("speichern_jn"))->setChecked(speichern);
+        form.accept();
+
+        // The foyer keys are kept on every OK, the table's network keys only when saved.
+        EXPECT_EQ(speicher_.text(QStringLiteral("IRCServer")), QStringLiteral("irc.example"));
+        EXPECT_EQ(speicher_.vorhanden(QStringLiteral("Serverport")), speichern);
+        if (!speichern) {
+            EXPECT_FALSE(QFile::exists(optionsdatei_));
+            continue;
+        }
+        const settings::Profildatei datei = settings::Profildatei::ausBytes(*settings::dateiBytes(optionsdatei_));
+        for (const auto& [schluessel, wert] : erwartet)
+            EXPECT_EQ(settings::profilZahl(datei, "Optionen", schreibschluessel(schluessel), 4711), wert) << schluessel;
+        EXPECT_EQ(settings::profilText(datei, "Optionen", "Name3", "", 254), "Jörg, 3");
+        // The changed values differ from the defaults, so a value the dialog lost would show.
+        EXPECT_NE(settings::EinstellungenLesen(optionsdatei_, {}), Einstellungen{});
+    }
+}
+
+TEST_F(EinstellformTest, JokerErzwingtErsteDolleHoch) {
+    Einstellungen e;
+    e.regeln.herzZehn = 0;  // Zweite schlägt Erste
+    table::Einstellform form(e, {}, umgebung());
+    auto* joker = form.findChild<QCheckBox*>(QStringLiteral("Joker"));
+    auto* dollen = form.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"));
+    auto* hinweis = form.findChild<QLabel*>(QStringLiteral("jokerhinweis"));
+    EXPECT_EQ(hinweis->text(), QStringLiteral("Beim Spiel mit Joker gilt immer: Erste Dolle ist hoch!"));
+    const struct {
+        bool joker;
+        int herzZehn;
+        bool waehlbar;
+    } schritte[] = {{false, 0, true}, {true, -1, false}, {false, 0, true}, {true, -1, false}};
+    for (const auto& s : schritte) {
+        joker->setChecked(s.joker);
+        EXPECT_EQ(dollen->wert(), s.herzZehn) << s.joker;
+        EXPECT_EQ(dollen->isEnabled(), s.waehlbar) << s.joker;
+        EXPECT_EQ(hinweis->isEnabled(), s.joker);
+        EXPECT_EQ(form.einstellungen().regeln.herzZehn, s.herzZehn);
+        EXPECT_EQ(form.einstellungen().regeln.joker, s.joker ? -1 : 0);
+    }
+    // Opened with the Joker on, the Dollen follow it whatever the file says.
+    e.regeln.joker = -1;
+    table::Einstellform mitJoker(e, {}, umgebung());
+    EXPECT_EQ(mitJoker.einstellungen().regeln.herzZehn, -1);
+    EXPECT_FALSE(mitJoker.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"))->isEnabled());
+}
+
+TEST_F(EinstellformTest, ExportUndImportStellenAlleWerteWiederHer) {
+    table::Einstellform form(Einstellungen{}, {}, umgebung());
+    for (const std::string_view schluessel : settings::leseschluessel())
+        aendern(form.findChild<QWidget*>(QString::fromUtf8(schluessel.data(), static_cast<qsizetype>(schluessel.size()))));
+    for (int sitz = 1; sitz <= 4; ++sitz) {
+        form.findChild<QLineEdit*>(QStringLiteral("Name%1").arg(sitz))->setText(QStringLiteral("Mäx, der %1.").arg(sitz));  // blanks around a value are not kept by the format
+        aendern(form.findChild<QComboBox*>(QStringLiteral("charakter%1").arg(sitz)));
+    }
+    const Einstellungen geaendert = form.einstellungen();
+    ASSERT_NE(geaendert, Einstellungen{});
+
+    const QString datei = ordner_.filePath(QStringLiteral("meine.dki"));
+    wahl_.antworten = {datei, datei};
+    form.exportieren();
+    form.setzeEinstellungen(Einstellungen{});
+    form.importieren();
+
+    // The compulsory solo is written as "Pflichtsolo" but read as "Solo": it keeps the
+    // value the dialog held before the import.
+    Einstellungen erwartet = geaendert;
+    erwartet.regeln.solo = Einstellungen{}.regeln.solo;
+    EXPECT_EQ(form.einstellungen(), erwartet);
+
+    ASSERT_EQ(wahl_.fragen.size(), 2u);
+    const struct {
+        bool speichern;
+        const char* titel;
+    } dialoge[] = {{true, "Einstellungen speichern"}, {false, "Einstellungen einlesen"}};
+    for (std::size_t i = 0; i < 2; ++i) {
+        EXPECT_EQ(wahl_.gespeichert[i], dialoge[i].speichern);
+        EXPECT_EQ(wahl_.fragen[i].titel, QString::fromUtf8(dialoge[i].titel));
+        EXPECT_EQ(wahl_.fragen[i].filter, "Doppelkopf-INI-Datei (*.dki)|*.dki|Alle Dateien(*.*)|*.*");
+        EXPECT_EQ(wahl_.fragen[i].endung, "dki");
+    }
+    // The folder is remembered for the next dialog.
+    EXPECT_EQ(wahl_.fragen[1].ordner, ordner_.path());
+}
+
+TEST_F(EinstellformTest, FremdeUndVeralteteDateienWerdenAbgelehnt) {
+    const struct {
+        const char* inhalt;
+        const char* meldung;
+    } faelle[] = {
+        {"[Optionen]\r\nProgramm=Fremdkopf\r\nVersionsnr=200\r\nName1=Fremd\r\n", "Keine gültige Doppelkopf-INI-Datei!"},
+        {"[Optionen]\r\nProgramm=Trumpona\r\nVersionsnr=199\r\nName1=Alt\r\n",
+         "Keine gültige Doppelkopf-INI-Datei oder Datei veraltet! "},
+        {"\x89PNG\r\n\x1a\n\0\0\0binary", "Keine gültige Doppelkopf-INI-Datei!"},
+    };
+    for (const auto& f : faelle) {
+        Einstellungen e;
+        e.namen[0] = "Ich";
+        table::Einstellform form(e, {}, umgebung());
+        const QString pfad = ordner_.filePath(QStringLiteral("fremd.dki"));
+        QFile datei(pfad);
+        ASSERT_TRUE(datei.open(QIODevice::WriteOnly));
+        datei.write(f.inhalt, static_cast<qint64>(std::string_view(f.inhalt).size()));
+        datei.close();
+        wahl_.antworten = {pfad};
+        QString gezeigt;
+        testhilfe::meldungBeantworten(QMessageBox::Ok, &gezeigt);
+        form.importieren();
+        EXPECT_EQ(gezeigt, QString::fromUtf8(f.meldung));
+        EXPECT_EQ(form.einstellungen(), e);
+    }
+}
+
+TEST_F(EinstellformTest, ZuruecksetzenFragtUndLoeschtAlles) {
+    for (const QMessageBox::StandardButton antwort : {QMessageBox::No, QMessageBox::Yes}) {
+        ASSERT_TRUE(settings::EinstellungenSchreiben(optionsdatei_, Einstellungen{}));
+        speicher_.setzeText(QStringLiteral("Warnung"), QStringLiteral("True"));
+        table::Einstellform form(Einstellungen{}, {}, umgebung());
+        QSignalSpy beendet(&form, &table::Einstellform::zurueckgesetzt);
+        QString frage;
+        testhilfe::meldungBeantworten(antwort, &frage);
+        form.findChild<QPushButton*>(QStringLiteral("cmdreset"))->click();
+        EXPECT_EQ(frage, QStringLiteral("Möchten Sie alle Einstellungen zurücksetzen?\nWenn Sie mit Ja antworten, wird "
+                                        "nach dem Reset das Programm beendet und muß neu gestartet werden!"));
+        const bool ja = antwort == QMessageBox::Yes;
+        EXPECT_EQ(beendet.count(), ja ? 1 : 0);
+        EXPECT_EQ(QFile::exists(optionsdatei_), !ja);
+        EXPECT_EQ(speicher_.vorhanden(QStringLiteral("Warnung")), !ja);
+    }
+}
+
+TEST_F(EinstellformTest, ReiterUndBeschriftungen) {
+    Einstellungen e;
+    e.namen = {"Ich", "Anna", "Bert", "Cleo"};
+    table::Einstellform form(e, {}, umgebung());
+    QStringList reiter;
+    for (int i = 0; i < form.reiter()->count(); ++i) reiter << form.reiter()->tabText(i);
+    EXPECT_EQ(reiter, (QStringList{QStringLiteral("Regeln"), QStringLiteral("Sonderpunkte"), QStringLiteral("Spieler"),
+                                   QStringLiteral("Anzeige"), QStringLiteral("Sound"), QStringLiteral("Netzwerk")}));
+    EXPECT_EQ(form.objectName(), QStringLiteral("einstellform"));
+
+    const struct {
+        const char* schluessel;
+        const char* text;
+    } schalter[] = {
+        {"Joker", "Spiel mit Joker"}, {"Solis", "Solospiele zulässig"}, {"Solo", "Pflichtsolo"},
+        {"Vh_Solo", "Solospieler hat Vorhand"}, {"Hh_n_Solo", "Anschließend Hinterhand"},
+        {"DaBu_Solo", "auch Damen-Buben-Solo"}, {"Bockrunden", "Doppelt nach kaltem Schlag"},
+        {"Neunerwerfen", "Neunerwerfen"}, {"Koenigewerfen", "Königewerfen"}, {"Armut", "Armut"},
+        {"Scharfer_Rupa", "Scharfer Doppelkopf (ohne Neunen)"}, {"Zwei_Schweine", "Zwei Schweinchen"},
+        {"Schweine_ansagen", "vor Spielbeginn ansagen"}, {"Schweine_b_TrSolo", "auch bei Karo-Solo"},
+        {"Supersau", "Supersau"}, {"Stille_befoerderung", "Stille Beförderung zur Supersau"},
+        {"Sopu_Fuchs", "Fuchs letzter Stich"}, {"Sopu_doppelfuchs", "Doppelfuchs"}, {"Sopu_karlchen", "Karlchen"},
+        {"Sopu_doppelkarlchen", "Doppelkarlchen"}, {"Sopu_rupa_b_Solo", "Doppelkopf bei Solospiel"},
+        {"Sopu_Dollenschlag", "Dullenschlag"}, {"Sopu_Herzstich", "Herzstich"}, {"Vollbild", "Vollbild"},
+    };
+    for (const auto& s : schalter) {
+        auto* c = form.findChild<QCheckBox*>(QString::fromUtf8(s.schluessel));
+        ASSERT_NE(c, nullptr) << s.schluessel;
+        EXPECT_EQ(c->text(), QString::fromUtf8(s.text)) << s.schluessel;
+    }
+
+    auto eintraege = [&](const char* name) {
+        QStringList texte;
+        auto* l = form.findChild<QComboBox*>(QString::fromUtf8(name));
+        for (int i = 0; i < l->count(); ++i) texte << l->itemText(i);
+        return texte;
+    };
+    const QStringList fristen{QStringLiteral("unzulässig"), QStringLiteral("bis einschließlich 1. Stich"),
+                              QStringLiteral("bis einschließlich 2. Stich"), QStringLiteral("bis einschließlich 3. Stich"),
+                              QStringLiteral("bis einschließlich 4. Stich"), QStringLiteral("bis einschließlich 5. Stich")};
+    EXPECT_EQ(eintraege("Kontra"), fristen);
+    EXPECT_EQ(eintraege("Limit"), fristen);
+    EXPECT_EQ(eintraege("Vorhand"), (QStringList{QStringLiteral("wird durch Zufall bestimmt"), QStringLiteral("Anwender"),
+                                                QStringLiteral("Anna"), QStringLiteral("Bert"), QStringLiteral("Cleo")}));
+    // A renamed seat is offered under its new name at once.
+    form.findChild<QLineEdit*>(QStringLiteral("Name3"))->setText(QStringLiteral("Berta"));
+    EXPECT_EQ(eintraege("Vorhand")[3], QStringLiteral("Berta"));
+
+    QStringList dollen;
+    for (auto* k : form.findChild<QWidget*>(QStringLiteral("HerzZehn"))->findChildren<QRadioButton*>()) dollen << k->text();
+    EXPECT_EQ(dollen, (QStringList{QStringLiteral("Zweite schlägt Erste"), QStringLiteral("Erste schlägt Zweite")}));
+}
+
+// Values the dialog does not offer survive opening and confirming it.
+TEST_F(EinstellformTest, UnbekannteWerteBleibenErhalten) {
+    Einstellungen e;
+    e.regeln.kontra = 7;
+    e.kartenbild = 6;
+    e.charakter[2] = 9;
+    e.einsammeln = 1;  // any non-zero value waits for a click
+    table::Einstellform form(e, {}, umgebung());
+    const Einstellungen zurueck = form.einstellungen();
+    EXPECT_EQ(zurueck.regeln.kontra, 7);
+    EXPECT_EQ(zurueck.kartenbild, 6);
+    EXPECT_EQ(zurueck.charakter[2], 9);
+    EXPECT_EQ(zurueck.einsammeln, -1);
+}
+
+TEST_F(EinstellformTest, BilderDerReiter) {
+    Einstellungen e;
+    e.namen = {"Ich", "Anna", "Bert", "Cleo"};
+    e.regeln.joker = -1;
+    table::Einstellform form(e, table::benutzereinstellungenLesen(speicher_), umgebung());
+    form.show();
+    // It fits the smallest screen the program is made for (800 x 600), frame included.
+    EXPECT_LE(form.sizeHint().width(), 790);
+    EXPECT_LE(form.sizeHint().height(), 565);
+    for (int i = 0; i < form.reiter()->count(); ++i) {
+        form.reiter()->setCurrentIndex(i);
+        // Nothing is cut off: the dialog's size fits every tab.
+        EXPECT_GE(form.reiter()->currentWidget()->width(), form.reiter()->currentWidget()->minimumSizeHint().width());
+        EXPECT_GE(form.reiter()->currentWidget()->height(), form.reiter()->currentWidget()->minimumSizeHint().height());
+        bildAblegen(form, QStringLiteral("einstellungen-%1").arg(i + 1));
+    }
+}
+
+TEST(Dateiwahl, FilterUndDialog) {
+    const struct {
+        const char* klassisch;
+        const char* qt;
+    } filter[] = {
+        {"Doppelkopf-INI-Datei (*.dki)|*.dki|Alle Dateien(*.*)|*.*", "Doppelkopf-INI-Datei (*.dki);;Alle Dateien(*.*)"},
+        {"Doppelkopf-Partie (*.DKP)|*.dkp|Alle Dateien (*.*)|*.*", "Doppelkopf-Partie (*.DKP);;Alle Dateien (*.*)"},
+    };
+    for (const auto& f : filter) EXPECT_EQ(table::qtFilter(f.klassisch), QString::fromUtf8(f.qt));
+
+    // The real dialog carries the title, the filters and the extension; cancelled it gives nothing.
+    table::Dateidialoge dialoge;
+    QString titel;
+    QStringList filterListe;
+    QString endung;
+    testhilfe::modalBeantworten([&](QWidget* w) {
+        auto* d = qobject_cast<QFileDialog*>(w);
+        if (!d) return;
+        titel = d->windowTitle();
+        filterListe = d->nameFilters();
+        endung = d->defaultSuffix();
+        d->reject();
+    });
+    const QString gewaehlt = dialoge.speichern(
+        nullptr, {QStringLiteral("Doppelkopf-Partie speichern"), QDir::tempPath(),
+                  "Doppelkopf-Partie (*.dkp)|*.dkp|Alle Dateien(*.*)|*.*", "dkp"});
+    EXPECT_TRUE(gewaehlt.isEmpty());
+    EXPECT_EQ(titel, QStringLiteral("Doppelkopf-Partie speichern"));
+    EXPECT_EQ(filterListe, (QStringList{QStringLiteral("Doppelkopf-Partie (*.dkp)"), QStringLiteral("Alle Dateien(*.*)")}));
+    EXPECT_EQ(endung, QStringLiteral("dkp"));
+}
+
+}  // namespace

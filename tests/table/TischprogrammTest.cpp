@@ -1,0 +1,480 @@
+#include <QAbstractButton>
+#include <QAction>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <gtest/gtest.h>
+
+#include "QtAusgabe.h"
+#include "Testdateiwahl.h"
+#include "engine/Spielablauf.h"
+#include "engine/Stichspiel.h"
+#include "players/EinfacheSpieler.h"
+#include "savegame/Partiespeicher.h"
+#include "settings/Benutzerspeicher.h"
+#include "table/Hauptfenster.h"
+#include "table/Einstellform.h"
+#include "table/Kartenfeld.h"
+#include "table/Meldungsdialog.h"
+#include "table/Regelseite.h"
+#include "table/Stichbetrachter.h"
+#include "table/Tischansicht.h"
+#include "table/Tischprogramm.h"
+#include "table/Tischsteuerung.h"
+#include "table/Verteilungsdialog.h"
+#include "table/Willkommen.h"
+
+namespace {
+
+using engine::Sitz;
+
+void bildAblegen(QWidget& w, const QString& name) {
+    const QString ordner = qEnvironmentVariable("TRUMPONA_TESTBILDER");
+    if (!ordner.isEmpty()) w.grab().save(QDir(ordner).filePath(name + QStringLiteral(".png")));
+}
+
+// Waits (running the event loop) until `bedingung` holds; false after `ms`.
+bool warten(const std::function<bool()>& bedingung, int ms = 20000) { return QTest::qWaitFor(bedingung, ms); }
+
+// One desktop table: window, controller and program, fast and without animation.
+struct Tisch {
+    explicit Tisch(const QString& ordner, std::uint64_t seed = 20240611)
+        : optionsdatei(QDir(ordner).filePath(QStringLiteral("rupalive.ini"))),
+          steuerung(hfo, std::make_unique<engine::SeedZufall>(seed)),
+          programm(hfo, steuerung, speicher, wahl, optionsdatei) {
+        settings::Einstellungen e;
+        e.animation = 0;
+        programm.EinstUebernehmen(e, programm.benutzer());
+        steuerung.setzeTempo({0, 0});
+        hfo.resize(1024, 768);
+        hfo.show();
+    }
+
+    const engine::Spiel& spiel() const { return steuerung.spiel(); }
+
+    QString optionsdatei;
+    settings::Benutzerspeicher speicher;
+    testhilfe::Testdateiwahl wahl;
+    table::Hauptfenster hfo;
+    table::Tischsteuerung steuerung;
+    table::Tischprogramm programm;
+};
+
+class TischprogrammTest : public ::testing::Test {
+protected:
+    TischprogrammTest() {
+        settings::Benutzerspeicher speicher;
+        speicher.zuruecksetzen(ordner_.filePath(QStringLiteral("rupalive.ini")));
+        // Each answer runs from a timer of its own: an answer that opens the next modal
+        // dialog waits in that dialog, and the pump must go on meanwhile.
+        QObject::connect(&pumpe_, &QTimer::timeout, [this] {
+            if (geplant_ || !QApplication::activeModalWidget()) return;
+            geplant_ = true;
+            QTimer::singleShot(0, [this] {
+                geplant_ = false;
+                if (QWidget* modal = QApplication::activeModalWidget()) antworten(modal);
+            });
+        });
+        pumpe_.start(2);
+    }
+    ~TischprogrammTest() override { pumpe_.stop(); }
+
+    void antworten(QWidget* modal) {
+            if (antworten_ && antworten_(modal)) return;
+            // Otherwise as a cautious person: no redeal, no solo, OK.
+            if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+                boxen_ << box->text();
+                QAbstractButton* nein = box->button(QMessageBox::No);
+                (nein ? nein : box->buttons().first())->click();
+            } else if (auto* dialog = qobject_cast<QDialog*>(modal)) {
+                qobject_cast<table::Meldungsdialog*>(dialog) ? dialog->accept() : dialog->reject();
+            }
+    }
+
+    // Plays seat 1's first legal card whenever it is its turn, until `halt` holds on its turn.
+    void spielenBis(Tisch& t, const std::function<bool()>& halt) {
+        table::Tischansicht& tisch = t.hfo.tisch();
+        for (int zug = 0; zug < 60; ++zug) {
+            ASSERT_TRUE(warten([&] { return tisch.kartenwahl() && !QApplication::activeModalWidget(); }));
+            if (halt()) return;
+            for (int pos : tisch.handfolge())
+                if (engine::karteErlaubt(t.spiel(), Sitz(1), pos)) {
+                    QTest::mouseClick(&tisch, Qt::LeftButton, {}, tisch.kartenmitte(pos).toPoint());
+                    break;
+                }
+            ASSERT_TRUE(warten([&] { return !tisch.kartenwahl() || QApplication::activeModalWidget(); }));
+        }
+        FAIL() << "Ziel nicht erreicht";
+    }
+
+    QTemporaryDir ordner_;
+    QTimer pumpe_;
+    bool geplant_ = false;
+    std::function<bool(QWidget*)> antworten_;  // true: answered
+    QStringList boxen_;
+};
+
+TEST_F(TischprogrammTest, WillkommenBeimErstenStart) {
+    const struct {
+        bool willkommen;
+        const char* knopf;  // nullptr: the screen must not come
+    } faelle[] = {{true, "neu"}, {true, "laden"}, {false, nullptr}};
+    for (const auto& f : faelle) {
+        Tisch t(ordner_.path());
+        settings::Einstellungen e = t.programm.einstellungen();
+        e.willkommen = f.willkommen ? -1 : 0;
+        t.programm.EinstUebernehmen(e, t.programm.benutzer());
+        int gesehen = 0;
+        QString regeltext;
+        antworten_ = [&](QWidget* w) {
+            if (auto* seite = qobject_cast<table::Regelseite*>(w)) {
+                regeltext = seite->text();
+                bildAblegen(*seite, QStringLiteral("spielregeln"));
+                seite->reject();
+                return true;
+            }
+            auto* willkommen = qobject_cast<table::Willkommen*>(w);
+            if (!willkommen) return false;
+            EXPECT_EQ(willkommen->windowTitle(), QStringLiteral("Willkommen"));
+            // First the rules, then back to the same screen.
+            if (gesehen++ == 0) {
+                bildAblegen(*willkommen, QStringLiteral("willkommen"));
+                willkommen->regelnKnopf()->click();
+                return true;
+            }
+            (std::string_view(f.knopf) == "neu" ? willkommen->neuKnopf() : willkommen->ladenKnopf())->click();
+            return true;
+        };
+        t.programm.starten();
+        antworten_ = nullptr;
+        EXPECT_EQ(gesehen, f.willkommen ? 2 : 0);
+        if (f.willkommen) {
+            EXPECT_TRUE(regeltext.contains(QStringLiteral("Hochzeit")));
+            EXPECT_TRUE(regeltext.contains(QStringLiteral("Ihre Einstellungen")));
+            EXPECT_TRUE(regeltext.contains(QStringLiteral("Karlchen")));
+        }
+        // Loading asked for a file; cancelled, a new Partie begins all the same.
+        const bool laden = f.knopf && std::string_view(f.knopf) == "laden";
+        ASSERT_EQ(t.wahl.fragen.size(), laden ? 1u : 0u);
+        if (laden) {
+            EXPECT_EQ(t.wahl.fragen[0].titel, QStringLiteral("Doppelkopf-Partie laden"));
+            EXPECT_EQ(t.wahl.fragen[0].filter, "Doppelkopf-Partie (*.DKP)|*.dkp|Alle Dateien (*.*)|*.*");
+        }
+        ASSERT_TRUE(warten([&] { return t.hfo.tisch().kartenwahl() || t.spiel().stich.anzahl > 0; }));
+    }
+}
+
+// Saved in the middle of a trick, the Partie loads into the same table picture.
+TEST_F(TischprogrammTest, GespeicherteParteMittenImStichSiehtGeladenGleichAus) {
+    const QString datei = ordner_.filePath(QStringLiteral("mitten.dkp"));
+    QImage vorher;
+    engine::Spiel gespeichert;
+    QString statusVorher;
+    {
+        Tisch a(ordner_.path());
+        a.steuerung.neuePartie();
+        ASSERT_NO_FATAL_FAILURE(spielenBis(a, [&] { return a.spiel().sticheGespielt >= 3 && a.spiel().stich.anzahl >= 2; }));
+        ASSERT_TRUE(a.steuerung.speicherbar());
+        a.wahl.antworten = {datei};
+        a.programm.m_partie_speichern_Click();
+        ASSERT_EQ(a.wahl.fragen.size(), 1u);
+        EXPECT_EQ(a.wahl.fragen[0].titel, QStringLiteral("Doppelkopf-Partie speichern"));
+        EXPECT_EQ(a.wahl.fragen[0].filter, "Doppelkopf-Partie (*.dkp)|*.dkp|Alle Dateien(*.*)|*.*");
+        EXPECT_EQ(a.wahl.fragen[0].endung, "dkp");
+        EXPECT_EQ(savegame::letzterOrdner(a.speicher), ordner_.path());
+        vorher = a.hfo.tisch().grab().toImage();
+        gespeichert = a.spiel();
+        statusVorher = a.hfo.status();
+        bildAblegen(a.hfo, QStringLiteral("vor-dem-speichern"));
+    }
+    Tisch b(ordner_.path(), 99);
+    b.steuerung.neuePartie();
+    ASSERT_TRUE(warten([&] { return b.hfo.tisch().kartenwahl(); }));
+    // The load dialog starts in the folder last used.
+    b.wahl.antworten = {datei};
+    boxen_.clear();
+    b.programm.m_partie_laden_Click();
+    ASSERT_EQ(b.wahl.fragen.size(), 1u);
+    EXPECT_EQ(b.wahl.fragen[0].ordner, ordner_.path());
+    ASSERT_TRUE(warten([&] { return b.hfo.tisch().kartenwahl(); }));
+    EXPECT_EQ(b.spiel().deck, gespeichert.deck);
+    EXPECT_EQ(b.spiel().stich, gespeichert.stich);
+    EXPECT_EQ(b.hfo.status(), statusVorher);
+    bildAblegen(b.hfo, QStringLiteral("nach-dem-laden"));
+    EXPECT_TRUE(b.hfo.tisch().grab().toImage() == vorher);
+    EXPECT_TRUE(boxen_.isEmpty()) << boxen_.join(QLatin1Char('|')).toStdString();
+
+    // trumpona --load FILE: the program starts with it instead of the welcome screen.
+    Tisch c(ordner_.path(), 7);
+    c.programm.starten(datei);
+    ASSERT_TRUE(warten([&] { return c.hfo.tisch().kartenwahl(); }));
+    EXPECT_TRUE(c.hfo.tisch().grab().toImage() == vorher);
+}
+
+// A finished game saved headless: the cycle played by the simple players up to its score.
+engine::Spiel beendetesSpiel() {
+    engine::Spiel spiel;
+    for (const Sitz s : engine::alleSitze) spiel.namen[s] = "Spieler" + std::to_string(s.nr());
+    engine::SeedZufall zufall(5);
+    engine::Spielablauf ablauf(spiel, zufall);
+    players::KleinsteKarte spieler;
+    ablauf.neuePartie();
+    for (engine::Anfrage a = ablauf.anfrage(); a.art != engine::Anfrageart::NaechstesSpiel; a = ablauf.anfrage()) {
+        switch (a.art) {
+            case engine::Anfrageart::Geben: ablauf.antworten(engine::Antwort::zufallsGeben()); break;
+            case engine::Anfrageart::Neugeben: ablauf.antworten(engine::Antwort::neugeben(false)); break;
+            case engine::Anfrageart::Vorbehalt: ablauf.antworten(engine::Antwort::mitVorbehalt({})); break;
+            case engine::Anfrageart::Karte:
+                ablauf.antworten(engine::Antwort::karte(spieler.karteWaehlen(spiel, *a.sitz)));
+                break;
+            default: ablauf.antworten(engine::Antwort::weiter(a.art)); break;
+        }
+    }
+    return spiel;
+}
+
+TEST_F(TischprogrammTest, LadeablaufMitSeinenMeldungen) {
+    const QString fertig = ordner_.filePath(QStringLiteral("fertig.dkp"));
+    const engine::Spiel beendet = beendetesSpiel();
+    ASSERT_TRUE(savegame::PartieSpeichern(fertig, {beendet, {}, {}}));
+    auto schreiben = [&](const char* name, const QByteArray& inhalt) {
+        const QString pfad = ordner_.filePath(QString::fromUtf8(name));
+        QFile f(pfad);
+        f.open(QIODevice::WriteOnly);
+        f.write(inhalt);
+        return pfad;
+    };
+    const QString fremd = schreiben("fremd.dkp", "XYZ\r\n1\r\n");
+    const QString alt = schreiben("alt.dkp", "RUPA-PARTIE19\r\n1\r\n2\r\n");
+    const QString kaputt = schreiben("kaputt.dkp", "RUPA-PARTIE26\r\n1\r\n");
+
+    const struct {
+        QString datei;
+        QStringList boxen;
+        bool neuePartie;  // else the running game goes on untouched, or the loaded one
+    } faelle[] = {
+        {fremd, {QStringLiteral("Keine gültige Doppelkopf-Datei oder die Datei ist beschädigt!")}, false},
+        {alt,
+         {QStringLiteral("Diese Datei ist veraltet."),
+          QStringLiteral("Keine gültige Doppelkopf-Datei oder die Datei ist beschädigt!"),
+          QStringLiteral("Es wurde keine gültige Partie ausgewählt.\nEs wird eine neue Partie gestartet.")},
+         true},
+        {kaputt,
+         {QStringLiteral("Keine gültige Doppelkopf-Datei oder die Datei ist beschädigt!"),
+          QStringLiteral("Es wurde keine gültige Partie ausgewählt.\nEs wird eine neue Partie gestartet.")},
+         true},
+    };
+    for (const auto& f : faelle) {
+        Tisch t(ordner_.path());
+        t.steuerung.neuePartie();
+        ASSERT_NO_FATAL_FAILURE(spielenBis(t, [&] { return t.spiel().sticheGespielt >= 1; }));
+        const engine::Spiel vorher = t.spiel();
+        boxen_.clear();
+        t.programm.partieLaden(f.datei);
+        EXPECT_EQ(boxen_, f.boxen) << f.datei.toStdString();
+        ASSERT_TRUE(warten([&] { return t.hfo.tisch().kartenwahl() || t.spiel().sticheGespielt == 0; }));
+        if (f.neuePartie) {
+            EXPECT_EQ(t.spiel().sticheGespielt, 0);
+            EXPECT_EQ(t.spiel().partie.spielNr, 1);
+        } else {
+            EXPECT_EQ(t.spiel().deck, vorher.deck);
+            EXPECT_EQ(t.spiel().stiche, vorher.stiche);
+        }
+    }
+
+    // A finished game: the question, the viewer on its last trick, then the next game.
+    Tisch t(ordner_.path());
+    int gezeigterStich = -1;
+    QString frage;
+    antworten_ = [&](QWidget* w) {
+        if (auto* box = qobject_cast<QMessageBox*>(w); box && box->text().startsWith(QStringLiteral("Das Spiel wurde"))) {
+            frage = box->text();
+            box->button(QMessageBox::Yes)->click();
+            return true;
+        }
+        if (auto* betrachter = qobject_cast<table::Stichbetrachter*>(w)) {
+            gezeigterStich = betrachter->gezeigt();
+            betrachter->reject();
+            return true;
+        }
+        return false;
+    };
+    boxen_.clear();
+    t.programm.partieLaden(fertig);
+    antworten_ = nullptr;
+    EXPECT_EQ(frage, QStringLiteral("Das Spiel wurde bis zu Ende gespielt. Möchten Sie sich die Stiche vor dem Start "
+                                    "des nächsten Spiels ansehen?"));
+    EXPECT_EQ(gezeigterStich, 11);
+    // The stored end-box text comes in a plain box.
+    ASSERT_EQ(boxen_.size(), 1);
+    EXPECT_EQ(boxen_.front().toStdString(), beendet.ergebnis.text);
+    ASSERT_TRUE(warten([&] { return t.spiel().partie.spielNr == 2; }));
+    EXPECT_EQ(t.steuerung.spielzettelZeilen().size(), 1u);
+}
+
+TEST_F(TischprogrammTest, ManuelleVerteilungGibtDieGewaehltenHaende) {
+    const struct {
+        QMessageBox::StandardButton antwort;
+        bool joker;
+    } faelle[] = {{QMessageBox::Yes, false}, {QMessageBox::Yes, true}, {QMessageBox::No, false}};
+    for (const auto& f : faelle) {
+        Tisch t(ordner_.path());
+        table::Benutzereinstellungen b = t.programm.benutzer();
+        b.manuelleVerteilung = true;
+        settings::Einstellungen e = t.programm.einstellungen();
+        e.regeln.joker = f.joker ? -1 : 0;
+        t.programm.EinstUebernehmen(e, b);
+
+        engine::ProSitz<std::vector<int>> gewaehlt;
+        bool gefragt = false;
+        bool unvollstaendigAbgelehnt = false;
+        antworten_ = [&](QWidget* w) {
+            if (auto* box = qobject_cast<QMessageBox*>(w)) {
+                if (box->text() == QStringLiteral("Manuelle Kartenverteilung?")) {
+                    gefragt = true;
+                    EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
+                    box->button(f.antwort)->click();
+                    return true;
+                }
+                if (box->text().startsWith(QStringLiteral("Es sind noch "))) {
+                    unvollstaendigAbgelehnt = true;
+                    box->buttons().first()->click();
+                    return true;
+                }
+                return false;
+            }
+            auto* dialog = qobject_cast<table::Verteilungsdialog*>(w);
+            if (!dialog) return false;
+            if (!unvollstaendigAbgelehnt) {
+                // One card by a click, then OK with 47 cards on the pile: refused.
+                bildAblegen(*dialog, QStringLiteral("verteilung-anfang"));
+                dialog->sitzWaehlen(Sitz(3));
+                table::Kartenfeld* stapel = dialog->stapelfeld();
+                QTest::mouseClick(stapel, Qt::LeftButton, {}, stapel->kartenmitte(0));
+                EXPECT_EQ(dialog->verteilung().hand(Sitz(3)).size(), 1u);
+                dialog->accept();
+                return true;
+            }
+            // The rest in turn from the pile: each seat gets every fourth card.
+            int i = 0;
+            while (!dialog->verteilung().stapel().empty()) {
+                dialog->sitzWaehlen(Sitz(i % 4 + 1));
+                dialog->stapelGeklickt(static_cast<int>(dialog->verteilung().stapel().size()) - 1);
+                ++i;
+            }
+            for (const Sitz s : engine::alleSitze) gewaehlt[s] = dialog->verteilung().hand(s);
+            bildAblegen(*dialog, QStringLiteral("verteilung"));
+            dialog->accept();
+            return true;
+        };
+        t.steuerung.neuePartie();
+        ASSERT_TRUE(warten([&] { return gefragt && t.spiel().ablauf.phase != engine::Spielphase::Geben; }));
+        antworten_ = nullptr;
+        if (f.antwort == QMessageBox::No) {
+            EXPECT_FALSE(unvollstaendigAbgelehnt);
+            continue;
+        }
+        EXPECT_TRUE(unvollstaendigAbgelehnt);
+        for (const Sitz s : engine::alleSitze) {
+            std::vector<int> hand;
+            for (int p = t.spiel().deck.erstePosition(s); p <= t.spiel().deck.letztePosition(s); ++p)
+                hand.push_back(t.spiel().deck[p].code);
+            EXPECT_EQ(hand, gewaehlt[s]) << s.nr();
+        }
+        const auto& erste = gewaehlt[Sitz(1)];
+        EXPECT_EQ(std::count(erste.begin(), erste.end(), engine::JokerCode) +
+                      std::count(gewaehlt[Sitz(2)].begin(), gewaehlt[Sitz(2)].end(), engine::JokerCode) +
+                      std::count(gewaehlt[Sitz(3)].begin(), gewaehlt[Sitz(3)].end(), engine::JokerCode) +
+                      std::count(gewaehlt[Sitz(4)].begin(), gewaehlt[Sitz(4)].end(), engine::JokerCode),
+                  f.joker ? 1 : 0);
+    }
+}
+
+// Changed options: the table's look and the names at once, the rules with the next game.
+TEST_F(TischprogrammTest, EinstellungenGeltenAbDemNaechstenSpiel) {
+    Tisch t(ordner_.path());
+    t.steuerung.neuePartie();
+    ASSERT_NO_FATAL_FAILURE(spielenBis(t, [&] { return t.spiel().sticheGespielt >= 1; }));
+    settings::Einstellungen e = t.programm.einstellungen();
+    e.regeln.kontra = 0;
+    e.regeln.zweiSchweine = -1;
+    e.namen[1] = "Anna";
+    e.charakter[1] = 0;
+    e.vollbild = -1;
+    e.automatic = 0;
+    e.iconen = 0;
+    e.karten = 0;
+    t.programm.EinstUebernehmen(e, t.programm.benutzer());
+    // The window at once.
+    EXPECT_TRUE(t.hfo.isFullScreen());
+    EXPECT_TRUE(t.hfo.vollbildAktion()->isChecked());
+    EXPECT_FALSE(t.hfo.automatikAktion()->isVisible());
+    EXPECT_TRUE(t.hfo.ladenAktion()->icon().isNull());
+    t.hfo.vollbildAktion()->trigger();
+    EXPECT_FALSE(t.hfo.isFullScreen());
+    e.iconen = -1;
+    e.automatic = -1;
+    t.programm.EinstUebernehmen(e, t.programm.benutzer());
+    EXPECT_TRUE(t.hfo.automatikAktion()->isVisible());
+    EXPECT_FALSE(t.hfo.ladenAktion()->icon().isNull());
+    // The rules not before the next game.
+    EXPECT_EQ(t.spiel().regeln.kontra, 5);
+    EXPECT_FALSE(t.spiel().regeln.zweiSchweine);
+    EXPECT_EQ(t.spiel().charakter[Sitz(2)], 2);
+    EXPECT_EQ(t.spiel().namen[Sitz(2)], "Anna");
+    QSignalSpy gewertet(&t.steuerung, &table::Tischsteuerung::spielGewertet);
+    t.hfo.automatikAktion()->trigger();
+    ASSERT_TRUE(gewertet.wait(60000));
+    t.hfo.automatikAktion()->trigger();
+    ASSERT_TRUE(warten([&] { return t.spiel().partie.spielNr == 2 && t.spiel().ablauf.phase != engine::Spielphase::Geben; }));
+    EXPECT_EQ(t.spiel().regeln.kontra, 0);
+    EXPECT_TRUE(t.spiel().regeln.zweiSchweine);
+    EXPECT_EQ(t.spiel().charakter[Sitz(2)], 0);
+}
+
+// The settings dialog from the menu: OK takes the values over, the reset ends the program.
+TEST_F(TischprogrammTest, EinstellungenAusDemMenue) {
+    Tisch t(ordner_.path());
+    t.steuerung.neuePartie();
+    ASSERT_TRUE(warten([&] { return t.hfo.tisch().kartenwahl(); }));
+    QSignalSpy ende(&t.programm, &table::Tischprogramm::programmEndeVerlangt);
+    QSignalSpy uebernommen(&t.programm, &table::Tischprogramm::einstellungenUebernommen);
+    antworten_ = [&](QWidget* w) {
+        auto* form = qobject_cast<table::Einstellform*>(w);
+        if (!form) return false;
+        form->findChild<QLineEdit*>(QStringLiteral("Name2"))->setText(QStringLiteral("Anna"));
+        form->findChild<QCheckBox*>(QStringLiteral("speichern_jn"))->setChecked(false);
+        form->accept();
+        return true;
+    };
+    t.hfo.einstellungenAktion()->trigger();
+    EXPECT_EQ(uebernommen.count(), 1);
+    EXPECT_EQ(t.spiel().namen[Sitz(2)], "Anna");
+    EXPECT_FALSE(QFile::exists(t.optionsdatei));
+
+    antworten_ = [&](QWidget* w) {
+        if (auto* form = qobject_cast<table::Einstellform*>(w)) {
+            QTimer::singleShot(0, form->findChild<QPushButton*>(QStringLiteral("cmdreset")), &QPushButton::click);
+            return true;
+        }
+        if (auto* box = qobject_cast<QMessageBox*>(w)) {
+            box->button(QMessageBox::Yes)->click();
+            return true;
+        }
+        return false;
+    };
+    t.hfo.einstellungenAktion()->trigger();
+    antworten_ = nullptr;
+    EXPECT_EQ(ende.count(), 1);
+    EXPECT_EQ(uebernommen.count(), 1);  // a reset takes nothing over
+}
+
+}  // namespace

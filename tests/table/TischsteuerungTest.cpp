@@ -193,7 +193,7 @@ TEST_F(TischsteuerungTest, FalscheKarteBleibtInDerHand) {
     };
     int falsch = 0;
     for (int zug = 0; zug < 12 && falsch == 0; ++zug) {
-        QTRY_VERIFY_WITH_TIMEOUT(tisch.kartenwahl(), 10000);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return tisch.kartenwahl(); }, 10000));
         falsch = illegaleKarte();
         if (falsch != 0) break;
         for (int pos : tisch.handfolge())
@@ -201,12 +201,12 @@ TEST_F(TischsteuerungTest, FalscheKarteBleibtInDerHand) {
                 QTest::mouseClick(&tisch, Qt::LeftButton, {}, tisch.kartenmitte(pos).toPoint());
                 break;
             }
-        QTRY_VERIFY_WITH_TIMEOUT(!tisch.kartenwahl() || illegaleKarte() != 0, 10000);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !tisch.kartenwahl() || illegaleKarte() != 0; }, 10000));
     }
     ASSERT_NE(falsch, 0);
     const int vorher = table::kartenInHand(spiel, Sitz(1));
     QTest::mouseClick(&tisch, Qt::LeftButton, {}, tisch.kartenmitte(falsch).toPoint());
-    QTRY_COMPARE_WITH_TIMEOUT(boxen_.falscheKarte.size(), std::size_t{1}, 5000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return boxen_.falscheKarte.size() == 1; }, 5000));
     EXPECT_EQ(spiel.deck[falsch].status, engine::InHand);
     EXPECT_EQ(table::kartenInHand(spiel, Sitz(1)), vorher);
     EXPECT_TRUE(tisch.kartenwahl());

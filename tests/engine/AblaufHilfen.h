@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <vector>
 
+#include "engine/Entscheider.h"
 #include "engine/Geben.h"
 #include "engine/Spielablauf.h"
 #include "engine/Zufall.h"
@@ -54,6 +55,29 @@ inline engine::ProSitz<int> proSitz(int a, int b, int c, int d) {
     x[engine::Sitz(3)] = c;
     x[engine::Sitz(4)] = d;
     return x;
+}
+
+// Answers the open request as the headless autoplay does (a random deal, redeal
+// by the computer rule, the seat's player for reservations and cards); returns
+// what was asked.
+inline engine::Anfrageart beantworten(engine::Spielablauf& ablauf, const engine::Spiel& spiel,
+                                      const engine::ProSitz<engine::Entscheider*>& spieler) {
+    using engine::Antwort;
+    const engine::Anfrage a = ablauf.anfrage();
+    switch (a.art) {
+        case engine::Anfrageart::Geben: EXPECT_TRUE(ablauf.antworten(Antwort::zufallsGeben())); break;
+        case engine::Anfrageart::Neugeben:
+            EXPECT_TRUE(ablauf.antworten(Antwort::neugeben(a.neugeben.computerWuerde)));
+            break;
+        case engine::Anfrageart::Vorbehalt:
+            EXPECT_TRUE(ablauf.antworten(Antwort::mitVorbehalt(spieler[*a.sitz]->vorbehaltWaehlen(spiel, *a.sitz))));
+            break;
+        case engine::Anfrageart::Karte:
+            EXPECT_TRUE(ablauf.antworten(Antwort::karte(spieler[*a.sitz]->karteWaehlen(spiel, *a.sitz))));
+            break;
+        default: EXPECT_TRUE(ablauf.antworten(Antwort::weiter(a.art))); break;
+    }
+    return a.art;
 }
 
 // Seat 1 is the person at the table unless told otherwise; Vorhand is seat 1.

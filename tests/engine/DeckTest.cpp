@@ -93,15 +93,6 @@ TEST(Kartenattribute, WertAugenUndJoker) {
     }
 }
 
-TEST(Kartenattribute, DoppeltesBlattHat240Augen) {
-    Deck deck;
-    for (int p = 1; p <= 48; ++p) deck[p].code = (p - 1) % 24 + 1;
-    deck.attributeBerechnen();
-    int summe = 0;
-    for (int p = 1; p <= 48; ++p) summe += deck[p].augen;
-    EXPECT_EQ(summe, 240);
-}
-
 TEST(Deck, SitzeHaltenIhreBloecke) {
     struct Fall { int karten; int sitz; int erste; int letzte; };
     for (const Fall f : {Fall{48, 1, 1, 12}, Fall{48, 4, 37, 48}, Fall{40, 2, 11, 20}, Fall{40, 4, 31, 40}}) {

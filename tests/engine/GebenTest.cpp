@@ -52,10 +52,7 @@ TEST(Geben, ZiehenMitZurueckweisung) {
         {"schon gezogen: neu ziehen", 48, false, {zug(5), zug(5), zug(6), zug(6), zug(7)}, {5, 6, 7}},
         {"25 ohne Joker ist die Karo-Neun", 48, false, {zug(25), zug(1), zug(2)}, {1, 1, 2}},
         {"25 mit Joker bleibt der Joker", 48, true, {zug(25), zug(1), zug(2)}, {25, 1, 2}},
-        {"ohne Neunen: Neunen neu ziehen",
-         40,
-         false,
-         {zug(1), zug(7), zug(43), zug(2), zug(25), zug(26), zug(3)},
+        {"ohne Neunen: Neunen neu ziehen", 40, false, {zug(1), zug(7), zug(43), zug(2), zug(25), zug(26), zug(3)},
          {2, 2, 3}},
     };
     for (const Fall& f : faelle) {
@@ -106,15 +103,14 @@ TEST(Geben, FalscheVerteilungWirdErkannt) {
 
 TEST(Geben, GeberZaehler) {
     Partiestand p;
-    const int vorwaerts[] = {1, 2, 3, 4, 1};
-    for (int soll : vorwaerts) {
+    for (int soll : {1, 2, 3, 4, 1}) {
         geberWeiter(p);
         EXPECT_EQ(p.geber, soll);
     }
-    geberZurueck(p);
-    EXPECT_EQ(p.geber, 4) << "von 1 zurück auf 4";
-    geberZurueck(p);
-    EXPECT_EQ(p.geber, 3);
+    for (int soll : {4, 3}) {
+        geberZurueck(p);
+        EXPECT_EQ(p.geber, soll) << "zurück";
+    }
 }
 
 TEST(Geben, VorhandDesNaechstenSpiels) {

@@ -102,37 +102,34 @@ RegelOptionen neunenUndArmutRegeln() {
 }
 }  // namespace
 
-// The person at seat 1 is asked first; when it declines, a computer seat may still ask.
-TEST(NeugebenAblauf, MenschLehntAbComputerFragt) {
-    Tisch t(neunenUndArmutRegeln());
-    t.geben(neunenUndArmut());
-    const Anfrage a = t.anfrage();
-    ASSERT_EQ(a.art, Anfrageart::Neugeben);
-    EXPECT_EQ(a.sitz, Sitz(1));
-    EXPECT_EQ(a.neugeben.frage, "Sie haben 5 Neunen!\nMöchten Sie, daß neu gegeben wird?");
-    EXPECT_TRUE(a.neugeben.computerWuerde);
-    EXPECT_EQ(t.spiel.partie.geber, 1);
-    ASSERT_TRUE(t.ablauf.antworten(Antwort::neugeben(false)));
-
-    const auto m = t.meldungenDerArt(Meldungsart::Neugeben);
-    ASSERT_EQ(m.size(), 1u);
-    EXPECT_EQ(m[0].titel, "Armut!");
-    EXPECT_EQ(m[0].text, "Spieler3 hat nur 0 Trümpfe! Es wird neu gegeben!");
-    EXPECT_EQ(m[0].sitz, Sitz(3));
-    EXPECT_EQ(t.anfrage().art, Anfrageart::Geben) << "the same dealer deals again";
-    EXPECT_EQ(t.spiel.partie.geber, 4);
-    EXPECT_EQ(t.spiel.partie.spielNr, 1);
-}
-
-TEST(NeugebenAblauf, JaDesMenschenEntscheidetSofort) {
-    Tisch t(neunenUndArmutRegeln());
-    t.geben(neunenUndArmut());
-    ASSERT_TRUE(t.ablauf.antworten(Antwort::neugeben(true)));
-    const auto m = t.meldungenDerArt(Meldungsart::Neugeben);
-    ASSERT_EQ(m.size(), 1u);
-    EXPECT_EQ(m[0].text, "Spieler1 hat 5 Neunen! Es wird neu gegeben!");
-    EXPECT_EQ(m[0].karten.size(), 5u) << "the Neunen are shown";
-    EXPECT_EQ(t.anfrage().art, Anfrageart::Geben);
+// The person at seat 1 is asked first; a yes decides at once, and when it declines
+// a computer seat may still ask. Either way the same dealer deals again.
+TEST(NeugebenAblauf, MenschZuerstDannComputer) {
+    struct Fall { bool ja; const char* titel; const char* text; int sitz; std::size_t karten; };
+    const Fall faelle[] = {
+        {true, "Neunerwerfen!", "Spieler1 hat 5 Neunen! Es wird neu gegeben!", 1, 5},
+        {false, "Armut!", "Spieler3 hat nur 0 Trümpfe! Es wird neu gegeben!", 3, 0},
+    };
+    for (const Fall& f : faelle) {
+        Tisch t(neunenUndArmutRegeln());
+        t.geben(neunenUndArmut());
+        const Anfrage a = t.anfrage();
+        ASSERT_EQ(a.art, Anfrageart::Neugeben);
+        EXPECT_EQ(a.sitz, Sitz(1));
+        EXPECT_EQ(a.neugeben.frage, "Sie haben 5 Neunen!\nMöchten Sie, daß neu gegeben wird?");
+        EXPECT_TRUE(a.neugeben.computerWuerde);
+        EXPECT_EQ(t.spiel.partie.geber, 1);
+        ASSERT_TRUE(t.ablauf.antworten(Antwort::neugeben(f.ja)));
+        const auto m = t.meldungenDerArt(Meldungsart::Neugeben);
+        ASSERT_EQ(m.size(), 1u);
+        EXPECT_EQ(m[0].titel, f.titel);
+        EXPECT_EQ(m[0].text, f.text);
+        EXPECT_EQ(m[0].sitz, Sitz(f.sitz));
+        EXPECT_EQ(m[0].karten.size(), f.karten) << "the qualifying cards are shown";
+        EXPECT_EQ(t.anfrage().art, Anfrageart::Geben);
+        EXPECT_EQ(t.spiel.partie.geber, 4);
+        EXPECT_EQ(t.spiel.partie.spielNr, 1);
+    }
 }
 
 TEST(NeugebenAblauf, RegelAusOderNetzspieler) {

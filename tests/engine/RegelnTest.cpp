@@ -1,37 +1,25 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <set>
 
 #include "engine/Regeln.h"
 
 using namespace engine;
 
-TEST(RegelnUebernehmen, SchalterNurBeiMinusEins) {
-    struct Fall { int gespeichert; bool inKraft; };
-    for (const Fall f : {Fall{-1, true}, Fall{0, false}, Fall{1, false}, Fall{2, false}}) {
+// A switch is on exactly when stored as -1; numbers come over as stored.
+TEST(RegelnUebernehmen, SchalterNurBeiMinusEinsZahlenUnveraendert) {
+    for (const int gespeichert : {-1, 0, 1, 2}) {
         RegelOptionen o;
-        o.joker = f.gespeichert;
-        o.herzZehn = f.gespeichert;
-        o.bockrunden = f.gespeichert;
+        o.joker = o.herzZehn = o.bockrunden = o.scharferRupa = gespeichert;
+        o.kontra = o.endeNach = o.vorhand = gespeichert + 3;
         const Regeln r = regelnUebernehmen(o);
-        EXPECT_EQ(r.joker, f.inKraft) << f.gespeichert;
-        EXPECT_EQ(r.herzZehn, f.inKraft) << f.gespeichert;
-        EXPECT_EQ(r.bockrunden, f.inKraft) << f.gespeichert;
+        const bool an = gespeichert == -1;
+        EXPECT_EQ((std::array{r.joker, r.herzZehn, r.bockrunden}), (std::array{an, an, an})) << gespeichert;
+        EXPECT_EQ(r.kartenanzahl, an ? 40 : 48) << gespeichert;
+        const int zahl = gespeichert + 3;
+        EXPECT_EQ((std::array{r.kontra, r.endeNach, r.vorhand}), (std::array{zahl, zahl, zahl})) << gespeichert;
     }
-}
-
-TEST(RegelnUebernehmen, ZahlenUndKartenanzahl) {
-    RegelOptionen o;
-    o.kontra = 3;
-    o.endeNach = 12;
-    o.vorhand = 4;
-    EXPECT_EQ(regelnUebernehmen(o).kartenanzahl, 48);
-    o.scharferRupa = -1;
-    const Regeln r = regelnUebernehmen(o);
-    EXPECT_EQ(r.kartenanzahl, 40);
-    EXPECT_EQ(r.kontra, 3);
-    EXPECT_EQ(r.endeNach, 12);
-    EXPECT_EQ(r.vorhand, 4);
 }
 
 TEST(RegelSchluessel, JederSchluesselEinmalMitSeinemStandard) {

@@ -54,159 +54,64 @@ Bewertung bewerten(const Fall& f) {
     for (const Meldung& m : meldungen) b.meldungen.push_back(m.text);
     return b;
 }
+
+// Rule and party set-ups of the rows below.
+void ohneKarlchen(Spiel& s) { s.regeln.sopuKarlchen = false; }
+void doppelkarlchen(Spiel& s) { s.regeln.sopuDoppelkarlchen = true; }
+void fuchsLetzter(Spiel& s) { s.regeln.sopuFuchs = true; }
+void doppelfuchs(Spiel& s) { s.regeln.sopuFuchs = s.regeln.sopuDoppelfuchs = true; }
+void dullenschlag(Spiel& s) { s.regeln.sopuDollenschlag = true; }
+void zweiteDolleHoch(Spiel& s) { s.regeln.sopuDollenschlag = true; s.regeln.herzZehn = false; }
+void schweinBei3(Spiel& s) { s.regeln.sopuDollenschlag = true; s.schweineHalter = Sitz(3); }
+void schweinBei1(Spiel& s) { s.schweineHalter = Sitz(1); }
+void herzstich(Spiel& s) { s.regeln.sopuHerzstich = true; }
+void solo(Spiel& s) { s.partei[Sitz(1)] = ParteiSolo; s.partei[Sitz(2)] = ParteiKontra; }
+void soloMitDoppelkopf(Spiel& s) {
+    solo(s);
+    s.steuerung[Sitz(1)] = Steuerung::Computer;
+    s.regeln.sopuRupaBSolo = true;
+}
 }  // namespace
 
 TEST(Sonderpunkte, Faelle) {
-    const std::string fuer = "\nSonderpunkt für ";
+    const std::string fuer = "\nSonderpunkt für ", kontra = "die Kontra-Partei";
+    const std::array<int, 4> doppelkopf{KreuzAs, KreuzZehn, KreuzAs, KreuzZehn};
     const Fall faelle[] = {
-        {"Doppelkopf: 42 Augen",
-         {KreuzAs, KreuzZehn, KreuzAs, KreuzZehn},
-         false,
-         nullptr,
-         {"Doppelkopf"},
-         ParteiRe,
-         "Doppelkopf!" + fuer + "Sie"},
+        {"Doppelkopf: 42 Augen", doppelkopf, false, nullptr, {"Doppelkopf"}, ParteiRe, "Doppelkopf!" + fuer + "Sie"},
         {"37 Augen: nichts", {KreuzAs, PikAs, HerzAs, KreuzKoenig}, false, nullptr, {}, ParteiRe, ""},
-        {"Fuchs des Gegners gefangen",
-         {KreuzDame, KaroNeun, KaroAs, KaroNeun},
-         false,
-         nullptr,
-         {"Fuchs gefangen"},
-         ParteiRe,
-         "Gefangener Fuchs!" + fuer + "Sie"},
+        {"Fuchs des Gegners gefangen", {KreuzDame, KaroNeun, KaroAs, KaroNeun}, false, nullptr, {"Fuchs gefangen"},
+         ParteiRe, "Gefangener Fuchs!" + fuer + "Sie"},
         {"Fuchs des Partners: nichts", {KreuzDame, KaroAs, KaroNeun, KaroNeun}, false, nullptr, {}, ParteiRe, ""},
-        {"zwei Füchse gefangen",
-         {KreuzDame, KaroNeun, KaroAs, KaroAs},
-         false,
-         nullptr,
-         {"Fuchs gefangen", "Fuchs gefangen"},
-         ParteiRe,
-         "Gefangene Füchse!\n2 Sonderpunkte für Sie"},
-        {"Kontra fängt",
-         {KaroAs, KaroNeun, KreuzDame, KaroNeun},
-         false,
-         nullptr,
-         {"Fuchs gefangen"},
-         ParteiKontra,
-         "Gefangener Fuchs!" + fuer + "die Kontra-Partei"},
-        {"Karlchen im letzten Stich",
-         {KaroNeun, KaroAs, KreuzBube, KaroNeun},
-         true,
-         nullptr,
-         {"Fuchs gefangen", "Karlchen"},
-         ParteiKontra,
-         "Gefangener Fuchs!" + fuer + "die Kontra-Partei"},
-        {"Karlchen nicht im letzten Stich",
-         {KaroNeun, KaroNeun, KreuzBube, KaroNeun},
-         false,
-         nullptr,
-         {},
-         ParteiKontra,
+        {"zwei Füchse gefangen", {KreuzDame, KaroNeun, KaroAs, KaroAs}, false, nullptr,
+         {"Fuchs gefangen", "Fuchs gefangen"}, ParteiRe, "Gefangene Füchse!\n2 Sonderpunkte für Sie"},
+        {"Kontra fängt", {KaroAs, KaroNeun, KreuzDame, KaroNeun}, false, nullptr, {"Fuchs gefangen"}, ParteiKontra,
+         "Gefangener Fuchs!" + fuer + kontra},
+        {"Karlchen im letzten Stich", {KaroNeun, KaroAs, KreuzBube, KaroNeun}, true, nullptr,
+         {"Fuchs gefangen", "Karlchen"}, ParteiKontra, "Gefangener Fuchs!" + fuer + kontra},
+        {"Karlchen nicht im letzten Stich", {KaroNeun, KaroNeun, KreuzBube, KaroNeun}, false, nullptr, {}, ParteiKontra,
          ""},
-        {"Karlchen abgeschaltet",
-         {KaroNeun, KaroNeun, KreuzBube, KaroNeun},
-         true,
-         [](Spiel& s) { s.regeln.sopuKarlchen = false; },
-         {},
-         ParteiKontra,
-         ""},
-        {"Doppelkarlchen",
-         {KreuzBube, KreuzBube, KaroNeun, KaroNeun},
-         true,
-         [](Spiel& s) { s.regeln.sopuDoppelkarlchen = true; },
-         {"Karlchen", "Doppelkarlchen"},
-         ParteiRe,
-         "Karlchen!" + fuer + "Sie"},
-        {"Fuchs letzter Stich",
-         {KaroAs, KaroNeun, KaroNeun, PikNeun},
-         true,
-         [](Spiel& s) { s.regeln.sopuFuchs = true; },
-         {"Fuchs letzter Stich"},
-         ParteiRe,
-         "Fuchs im Stich!" + fuer + "Sie"},
-        {"Doppelfuchs",
-         {KaroAs, KaroAs, KaroNeun, PikNeun},
-         true,
-         [](Spiel& s) {
-             s.regeln.sopuFuchs = true;
-             s.regeln.sopuDoppelfuchs = true;
-         },
-         {"Fuchs letzter Stich", "Doppelfuchs"},
-         ParteiRe,
-         "Fuchs im Stich!" + fuer + "Sie"},
-        {"Dullenschlag: zweite Dolle schlägt erste",
-         {KaroNeun, KaroNeun, HerzZehn, HerzZehn},
-         false,
-         [](Spiel& s) {
-             s.regeln.sopuDollenschlag = true;
-             s.regeln.herzZehn = false;
-         },
-         {},
-         ParteiKontra,
-         ""},
-        {"Dullenschlag gegen den Gegner",
-         {KaroNeun, HerzZehn, KaroNeun, HerzZehn},
-         false,
-         [](Spiel& s) {
-             s.regeln.sopuDollenschlag = true;
-             s.regeln.herzZehn = false;
-         },
-         {"Dullenschlag"},
-         ParteiKontra,
-         "Geschlagene Dolle im Stich!" + fuer + "die Kontra-Partei"},
-        {"Dolle vom Joker gefangen",
-         {HerzZehn, KaroNeun, Joker, KaroNeun},
-         false,
-         [](Spiel& s) { s.regeln.sopuDollenschlag = true; },
-         {"Dolle gefangen"},
-         ParteiKontra,
-         "Gefangene Dolle!" + fuer + "die Kontra-Partei"},
-        {"Schwein schlägt Dolle: gar nichts",
-         {HerzZehn, KreuzAs, KaroAs, KreuzZehn},
-         false,
-         [](Spiel& s) {
-             s.regeln.sopuDollenschlag = true;
-             s.schweineHalter = Sitz(3);
-         },
-         {},
+        {"Karlchen abgeschaltet", {KaroNeun, KaroNeun, KreuzBube, KaroNeun}, true, ohneKarlchen, {}, ParteiKontra, ""},
+        {"Doppelkarlchen", {KreuzBube, KreuzBube, KaroNeun, KaroNeun}, true, doppelkarlchen,
+         {"Karlchen", "Doppelkarlchen"}, ParteiRe, "Karlchen!" + fuer + "Sie"},
+        {"Fuchs letzter Stich", {KaroAs, KaroNeun, KaroNeun, PikNeun}, true, fuchsLetzter, {"Fuchs letzter Stich"},
+         ParteiRe, "Fuchs im Stich!" + fuer + "Sie"},
+        {"Doppelfuchs", {KaroAs, KaroAs, KaroNeun, PikNeun}, true, doppelfuchs, {"Fuchs letzter Stich", "Doppelfuchs"},
+         ParteiRe, "Fuchs im Stich!" + fuer + "Sie"},
+        {"Dullenschlag: zweite Dolle schlägt erste", {KaroNeun, KaroNeun, HerzZehn, HerzZehn}, false, zweiteDolleHoch,
+         {}, ParteiKontra, ""},
+        {"Dullenschlag gegen den Gegner", {KaroNeun, HerzZehn, KaroNeun, HerzZehn}, false, zweiteDolleHoch,
+         {"Dullenschlag"}, ParteiKontra, "Geschlagene Dolle im Stich!" + fuer + kontra},
+        {"Dolle vom Joker gefangen", {HerzZehn, KaroNeun, Joker, KaroNeun}, false, dullenschlag, {"Dolle gefangen"},
+         ParteiKontra, "Gefangene Dolle!" + fuer + kontra},
+        {"Schwein schlägt Dolle: gar nichts", {HerzZehn, KreuzAs, KaroAs, KreuzZehn}, false, schweinBei3, {},
          ParteiKontra,
          "Gewinner schlug Dolle mit Schwein! Daher kein Sonderpunkt möglich für den Gewinner des Stichs! Weitere "
          "Prüfung erfolgt hier daher nicht mehr."},
-        {"Schwein ist kein Fuchs",
-         {KaroAs, KreuzDame, KaroNeun, KaroNeun},
-         false,
-         [](Spiel& s) { s.schweineHalter = Sitz(1); },
-         {},
-         ParteiRe,
-         ""},
-        {"Herzstich",
-         {HerzNeun, HerzKoenig, HerzAs, HerzNeun},
-         false,
-         [](Spiel& s) { s.regeln.sopuHerzstich = true; },
-         {"Herzstich"},
-         ParteiKontra,
-         "Herzstich!" + fuer + "die Kontra-Partei"},
-        {"im Solo nichts",
-         {KreuzAs, KreuzZehn, KreuzAs, KreuzZehn},
-         true,
-         [](Spiel& s) {
-             s.partei[Sitz(1)] = ParteiSolo;
-             s.partei[Sitz(2)] = ParteiKontra;
-         },
-         {},
-         ParteiRe,
-         ""},
-        {"Doppelkopf im Solo mit Regel",
-         {KreuzAs, KreuzZehn, KreuzAs, KreuzZehn},
-         false,
-         [](Spiel& s) {
-             s.partei[Sitz(1)] = ParteiSolo;
-             s.partei[Sitz(2)] = ParteiKontra;
-             s.steuerung[Sitz(1)] = Steuerung::Computer;
-             s.regeln.sopuRupaBSolo = true;
-         },
-         {"Doppelkopf"},
-         ParteiRe,
+        {"Schwein ist kein Fuchs", {KaroAs, KreuzDame, KaroNeun, KaroNeun}, false, schweinBei1, {}, ParteiRe, ""},
+        {"Herzstich", {HerzNeun, HerzKoenig, HerzAs, HerzNeun}, false, herzstich, {"Herzstich"}, ParteiKontra,
+         "Herzstich!" + fuer + kontra},
+        {"im Solo nichts", doppelkopf, true, solo, {}, ParteiRe, ""},
+        {"Doppelkopf im Solo mit Regel", doppelkopf, false, soloMitDoppelkopf, {"Doppelkopf"}, ParteiRe,
          "Doppelkopf!" + fuer + "den Solospieler"},
     };
     for (const Fall& f : faelle) {

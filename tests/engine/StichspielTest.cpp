@@ -61,23 +61,6 @@ TEST(Stichgewinner, ZwischenstandNachJederKarte) {
     EXPECT_EQ(stichGewinner(spiel), Sitz(3));
 }
 
-TEST(KarteSpielen, StatusReihenfolgeUndPlaetze) {
-    Spiel spiel = spielMitHaenden(1, {{PikNeun}, {PikAs}, {KaroNeun}, {KreuzAs}});
-    spiel.stich.beginnen(Sitz(3));
-    const int pos3 = positionVon(spiel, Sitz(3), KaroNeun);
-    karteSpielen(spiel, pos3);
-    EXPECT_EQ(spiel.deck[pos3].status, Gespielt);
-    EXPECT_EQ(spiel.stich.anzahl, 1);
-    EXPECT_EQ(spiel.stich.karte(1), pos3);
-    EXPECT_EQ(spiel.stich.platz[Sitz(3)], 1);
-    EXPECT_EQ(spiel.stich.farbeZuBedienen, Normalspiel);  // trump led
-    EXPECT_EQ(spiel.stich.amZug(), Sitz(4));
-    karteSpielen(spiel, positionVon(spiel, Sitz(4), KreuzAs));
-    EXPECT_EQ(spiel.stich.platz[Sitz(4)], 2);
-    EXPECT_EQ(spiel.stich.amZug(), Sitz(1));
-    EXPECT_EQ(spiel.stich.sitzAn(4), Sitz(2));
-}
-
 TEST(KarteSpielen, KreuzDameZeigtReNurAusserhalbDesSolos) {
     for (const bool solo : {false, true}) {
         Spiel spiel = spielMitHaenden(1, {{KreuzDame}, {KaroNeun}, {KaroNeun}, {KaroNeun}});

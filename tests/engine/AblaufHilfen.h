@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <type_traits>
 #include <vector>
 
 #include "engine/Entscheider.h"
@@ -48,8 +49,10 @@ inline engine::Kartenverteilung verteilung(std::initializer_list<std::vector<int
     return k;
 }
 
-inline engine::ProSitz<int> proSitz(int a, int b, int c, int d) {
-    engine::ProSitz<int> x;
+template <class T = int>
+engine::ProSitz<T> proSitz(std::type_identity_t<T> a, std::type_identity_t<T> b, std::type_identity_t<T> c,
+                           std::type_identity_t<T> d) {
+    engine::ProSitz<T> x;
     x[engine::Sitz(1)] = a;
     x[engine::Sitz(2)] = b;
     x[engine::Sitz(3)] = c;

@@ -1,6 +1,8 @@
 #pragma once
 // A saved-game state with every field set to a value different from its
 // default and from its neighbours, so a value read into the wrong field shows.
+#include <string>
+
 #include "savegame/Spielstand.h"
 
 namespace testhilfe {
@@ -28,15 +30,8 @@ inline savegame::Spielstand vollerSpielstand(int n = 0) {
         s.partie.pflichtsoloGespielt[x] = i % 2 == 1;
     }
     s.regeln = engine::regelnUebernehmen(engine::RegelOptionen{});
-    s.regeln.joker = true;
-    s.regeln.solo = true;
-    s.regeln.hhNSolo = true;
-    s.regeln.vhSolo = true;
-    s.regeln.herzZehn = false;
-    s.regeln.sopuKarlchen = false;
-    s.regeln.sopuFuchs = true;
-    s.regeln.supersau = true;
-    s.regeln.solis = false;
+    s.regeln.joker = s.regeln.solo = s.regeln.hhNSolo = s.regeln.vhSolo = s.regeln.sopuFuchs = s.regeln.supersau = true;
+    s.regeln.herzZehn = s.regeln.sopuKarlchen = s.regeln.solis = false;
     s.regeln.kontra = 3;
     s.regeln.limit = 0;
     s.regeln.endeBei = 41 + n;
@@ -68,7 +63,7 @@ inline savegame::Spielstand vollerSpielstand(int n = 0) {
     s.limitSitz = Sitz(2);
     s.limitCode = engine::Keine60;
     s.ansagenProStich[0] = {true, false, 0, -1};
-    s.ansagenProStich[3] = {false, true, 4, engine::Keine90};
+    s.ansagenProStich[3] = {false, true, 4 - n, engine::Keine90};
     s.ansagenProStich[11] = {true, true, 2, engine::LimitSchwarz};
     s.ansagen = {{Sitz(1), false, 2, -1, 0}, {Sitz(4), true, 1, engine::Keine90, 3},
                  {Sitz(2), true, 2, engine::LimitSchwarz, 5}};
@@ -117,7 +112,7 @@ inline savegame::Spielstand vollerSpielstand(int n = 0) {
     s.partie.partieNr = 2 + n;
     s.partie.spielNr = 9;
     for (std::size_t g = 0; g < s.partie.spieltabelle.size(); ++g) {
-        for (const Sitz x : engine::alleSitze) s.partie.spieltabelle[g][x] = static_cast<int>(g) * 10 + x.nr();
+        for (const Sitz x : engine::alleSitze) s.partie.spieltabelle[g][x] = static_cast<int>(g) * 10 + x.nr() + n;
     }
     s.partie.bock = true;
     s.partie.letzteVorhand = Sitz(1);
@@ -137,6 +132,36 @@ inline savegame::Spielstand vollerSpielstand(int n = 0) {
     st.tisch.sitzAnzeige = {1, -2, 3, 40};
     st.tisch.partnerinfo2Sichtbar = true;
     return st;
+}
+
+// The fields in which two states differ, for a readable failure.
+inline std::string unterschiede(const engine::Spiel& x, const engine::Spiel& y) {
+    std::string liste;
+    auto feld = [&](const char* name, bool gleich) {
+        if (!gleich) liste += std::string(liste.empty() ? "" : ", ") + name;
+    };
+    feld("namen", x.namen == y.namen);
+    feld("charakter", x.charakter == y.charakter);
+    feld("steuerung", x.steuerung == y.steuerung);
+    feld("regeln", x.regeln == y.regeln);
+    feld("deck", x.deck == y.deck);
+    feld("spieltyp", x.spieltyp == y.spieltyp);
+    feld("vorhand", x.vorhand == y.vorhand);
+    feld("partei", x.partei == y.partei);
+    feld("parteiMarker", x.parteiMarker == y.parteiMarker);
+    feld("ansagen", x.ansagen == y.ansagen);
+    feld("ansagenProStich", x.ansagenProStich == y.ansagenProStich);
+    feld("stich", x.stich == y.stich);
+    feld("stiche", x.stiche == y.stiche);
+    feld("sticheGespielt", x.sticheGespielt == y.sticheGespielt);
+    feld("augen", x.augen == y.augen);
+    feld("stichzahl", x.stichzahl == y.stichzahl);
+    feld("sonderpunkte", x.sonderpunkte == y.sonderpunkte);
+    feld("spielbericht", x.spielbericht == y.spielbericht);
+    feld("ergebnis", x.ergebnis == y.ergebnis);
+    feld("ablauf", x.ablauf == y.ablauf);
+    feld("partie", x.partie == y.partie);
+    return liste.empty() ? (x == y ? "" : "ein anderes Feld") : liste;
 }
 
 }  // namespace testhilfe

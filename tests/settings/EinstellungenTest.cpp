@@ -76,19 +76,6 @@ TEST(EinstellungenLesen, AbgeleiteteWerte) {
     }
 }
 
-TEST(EinstellungenLesen, OhneTonausgabeSindSpracheGeraeuschUndSignalAus) {
-    const std::string datei = utf8NachCp1252("[Optionen]\r\nSprachausgabe=-1\r\nGeräusch=-1\r\nSignal=-1\r\nAnimation=-1\r\n");
-    const Einstellungen ohne = lesen(datei, Lesekontext{false, false});
-    EXPECT_EQ(ohne.sprachausgabe, 0);
-    EXPECT_EQ(ohne.geraeusch, 0);
-    EXPECT_EQ(ohne.signal, 0);
-    EXPECT_EQ(ohne.animation, -1);
-    const Einstellungen mit = lesen(datei, Lesekontext{true, false});
-    EXPECT_EQ(mit.sprachausgabe, -1);
-    EXPECT_EQ(mit.geraeusch, -1);
-    EXPECT_EQ(mit.signal, -1);
-}
-
 TEST(EinstellungenLesen, NamenWerdenGekuerztOderBehalten) {
     const std::string datei = "[Optionen]\r\nName1=" + std::string(300, 'n') + "\r\nName2=Bo\r\n";
     EXPECT_EQ(lesen(datei).namen[0], std::string(253, 'n'));

@@ -32,18 +32,26 @@ TEST(Optionsdatei, LiegtImKonfigurationsordnerDesBenutzers) {
     EXPECT_EQ(optionsdateiPfad(), xdg + "/Trumpona/rupalive.ini");
 }
 
-TEST(Optionsdatei, SchreibenUndLesenUeberDieFestplatte) {
+// Written into a folder that does not exist yet, read back as the options file and
+// imported as an export: the same values, and no temporary copy left behind.
+TEST(Optionsdatei, SchreibenLesenUndImportierenUeberDieFestplatte) {
     QTemporaryDir ordner;
-    const QString pfad = ordner.path() + "/neu/unter/rupalive.ini";
+    const QString pfad = ordner.path() + "/neu/unter/meine.dki";
     Einstellungen e;
-    e.namen[0] = "Jürgen";
+    e.namen = {"Jürgen", "B", "C", "D"};
     e.regeln.joker = -1;
+    e.regeln.limit = 0;
     ASSERT_TRUE(EinstellungenSchreiben(pfad, e));
-    const QByteArray bytes = inhalt(pfad);
-    EXPECT_TRUE(bytes.startsWith("[Optionen]\r\nProgramm=Trumpona\r\nName1=J\xFCrgen\r\n"));
+    EXPECT_TRUE(inhalt(pfad).startsWith("[Optionen]\r\nProgramm=Trumpona\r\nName1=J\xFCrgen\r\n"));
     EXPECT_EQ(EinstellungenLesen(pfad, Lesekontext{}), e);
-    // only the file itself is left in the folder, no temporary copy
-    EXPECT_EQ(QDir(ordner.path() + "/neu/unter").entryList(QDir::Files), QStringList{"rupalive.ini"});
+    const Import i = EinstellungenImportieren(pfad, Einstellungen{}, Lesekontext{});
+    ASSERT_TRUE(i.einstellungen) << i.fehler;
+    EXPECT_EQ(*i.einstellungen, e);
+    EXPECT_EQ(QDir(ordner.path() + "/neu/unter").entryList(QDir::Files), QStringList{"meine.dki"});
+    // A file that is not there, or not an options file at all, is refused as foreign.
+    schreibeDatei(ordner.path() + "/bild.dki", QByteArray("\x00\x01\x02garbage", 10));
+    for (const QString& fremd : {ordner.path() + "/fehlt.dki", ordner.path() + "/bild.dki"})
+        EXPECT_EQ(EinstellungenImportieren(fremd, e, Lesekontext{}).fehler, std::string(texte::KeineIniDatei));
 }
 
 TEST(Optionsdatei, UnschreibbarerPfadWirdGemeldet) {
@@ -56,42 +64,7 @@ TEST(Optionsdatei, UnschreibbarerPfadWirdGemeldet) {
     EXPECT_EQ(inhalt(ordner.path() + "/datei"), QByteArray("kein Ordner"));
 }
 
-TEST(Optionsdatei, ImportAusDkiDatei) {
-    QTemporaryDir ordner;
-    struct Fall { QByteArray datei; std::string fehler; };
-    const std::vector<Fall> faelle{
-        {"[Optionen]\r\nProgramm=Trumpona\r\nVersionsnr=199\r\nName1=X\r\n", std::string(texte::IniVeraltet)},
-        {"[Optionen]\r\nProgramm=Anderes\r\nVersionsnr=200\r\nName1=X\r\n", std::string(texte::KeineIniDatei)},
-        {"\x00\x01\x02garbage", std::string(texte::KeineIniDatei)},
-        {"[Optionen]\r\nProgramm=Trumpona\r\nVersionsnr=200\r\nName1=X\r\n", ""},
-    };
-    Einstellungen aktuell;
-    aktuell.namen[0] = "Bisher";
-    for (const auto& f : faelle) {
-        const QString pfad = ordner.path() + "/export.dki";
-        schreibeDatei(pfad, f.datei);
-        const Import i = EinstellungenImportieren(pfad, aktuell, Lesekontext{});
-        EXPECT_EQ(i.fehler, f.fehler);
-        if (i.einstellungen) {
-            EXPECT_EQ(i.einstellungen->namen[0], "X");
-        }
-    }
-    EXPECT_EQ(EinstellungenImportieren(ordner.path() + "/fehlt.dki", aktuell, Lesekontext{}).fehler,
-              std::string(texte::KeineIniDatei));
-}
-
-TEST(Optionsdatei, ExportLaesstSichWiederImportieren) {
-    QTemporaryDir ordner;
-    const QString pfad = ordner.path() + "/meine.dki";
-    Einstellungen e;
-    e.namen = {"A", "B", "C", "D"};
-    e.regeln.limit = 0;
-    ASSERT_TRUE(EinstellungenSchreiben(pfad, e));
-    const Import i = EinstellungenImportieren(pfad, Einstellungen{}, Lesekontext{});
-    ASSERT_TRUE(i.einstellungen);
-    EXPECT_EQ(*i.einstellungen, e);
-}
-
+// Without an audio output speech, sounds and signal are read as off, the rest as stored.
 TEST(Tonausgabe, OhneGeraetBleibtEsStill) {
     QTemporaryDir ordner;
     const QString pfad = ordner.path() + "/rupalive.ini";
@@ -103,6 +76,7 @@ TEST(Tonausgabe, OhneGeraetBleibtEsStill) {
     setzeTonpruefung({});
     EXPECT_EQ((std::array{ohne.sprachausgabe, ohne.geraeusch, ohne.signal}), (std::array{0, 0, 0}));
     EXPECT_EQ((std::array{mit.sprachausgabe, mit.geraeusch, mit.signal}), (std::array{-1, -1, -1}));
+    EXPECT_EQ(ohne.animation, -1);
 }
 
 TEST(Benutzerspeicher, StandardsNachBildschirmbreite) {

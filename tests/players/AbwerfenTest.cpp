@@ -99,30 +99,26 @@ TEST(Abwerfen, DritthandAufTrumpf) {
 // No chance: the suits at deck positions 26 and 27 (seat 3's second and third card)
 // decide whether to butter onto the soloist's trump trick.
 TEST(Abwerfen, SolistenTrumpfstichNachDeckpositionen) {
-    struct Zeile { std::vector<int> hand; int typ; const char* regel; int karte; };
+    struct Zeile { const char* name; int typ; std::vector<std::vector<int>> haende; std::initializer_list<int> stich;
+                   const char* regel; int karte; };
     const Zeile zeilen[] = {
-        {{PikNeun, PikAs, HerzKoenig}, engine::Normalspiel, "abwerfen:DH014", PikNeun},   // 27 is Herz
-        {{PikNeun, PikAs, KreuzKoenig}, engine::Normalspiel, "abwerfen:DH015", PikAs},    // Pik, Kreuz
+        {"27 ist Herz", engine::Normalspiel, {{KaroDame}, {KaroNeun}, {PikNeun, PikAs, HerzKoenig}, {PikDame, KaroKoenig}},
+         {KaroDame, KaroNeun}, "abwerfen:DH014", PikNeun},
+        {"26 und 27 Pik und Kreuz", engine::Normalspiel,
+         {{KaroDame}, {KaroNeun}, {PikNeun, PikAs, KreuzKoenig}, {PikDame, KaroKoenig}}, {KaroDame, KaroNeun},
+         "abwerfen:DH015", PikAs},
+        // In a Herz-Solo the Karo cards are plain: a Karo card at position 26 means no butter.
+        {"Karo im Herz-Solo", engine::HerzSolo,
+         {{HerzDame}, {HerzNeun}, {PikNeun, KaroKoenig, PikAs}, {PikDame, HerzKoenig}}, {HerzDame, HerzNeun},
+         "abwerfen:DH014", PikNeun},
     };
     for (const Zeile& z : zeilen) {
-        Situation s(z.typ, {{KaroDame}, {KaroNeun}, z.hand, {PikDame, KaroKoenig}});
-        s.aufspieler(1);
-        s.spielt(KaroDame);
-        s.spielt(KaroNeun);
-        s.wissenAufbauen();
+        Situation s(z.typ, z.haende);
+        s.nachStich(z.stich);
         s.solo(1);
-        EXPECT_EQ(s.waehlt(), z.karte) << z.regel;
-        EXPECT_EQ(s.ersteRegel(), z.regel);
+        EXPECT_EQ(s.waehlt(), z.karte) << z.name;
+        EXPECT_EQ(s.ersteRegel(), z.regel) << z.name;
     }
-    // In a Herz-Solo the Karo cards are plain: a Karo card at position 26 means no butter.
-    Situation s(engine::HerzSolo, {{HerzDame}, {HerzNeun}, {PikNeun, KaroKoenig, PikAs}, {PikDame, HerzKoenig}});
-    s.aufspieler(1);
-    s.spielt(HerzDame);
-    s.spielt(HerzNeun);
-    s.wissenAufbauen();
-    s.solo(1);
-    EXPECT_EQ(s.waehlt(), PikNeun);
-    EXPECT_EQ(s.ersteRegel(), "abwerfen:DH014");
 }
 
 TEST(Abwerfen, Hinterhand) {
@@ -169,20 +165,14 @@ TEST(Abwerfen, Zweithand) {
 // A seat void in the led suit that knows it has no trump goes straight to the discards;
 // one that holds trump first asks the ruffing rules and says so when it discards after all.
 TEST(Abwerfen, WegUeberStechenOderAbwerfen) {
-    {
-        Situation s(engine::Normalspiel, {{KreuzAs}, {PikNeun, PikAs}, {KreuzKoenig}, {KreuzNeun}});
-        s.spielt(KreuzAs);
-        s.wissenAufbauen();
-        EXPECT_EQ(s.waehlt(), PikNeun);
-        EXPECT_EQ(s.regeln(), std::vector<std::string>{"abwerfen:ZH01"});
-        EXPECT_FALSE(s.zeigte(players::text::AbwurfStattStechen));
-    }
-    {
-        Situation s(engine::Normalspiel, {{KreuzAs}, {PikNeun, PikAs, KaroNeun}, {KreuzKoenig}, {KreuzNeun}});
-        s.spielt(KreuzAs);
-        s.wissenAufbauen();
-        EXPECT_EQ(s.waehlt(), PikNeun);
-        EXPECT_EQ(s.ersteRegel(), "abwerfen:ZH01");
-        EXPECT_TRUE(s.zeigte(players::text::AbwurfStattStechen));
+    for (const bool mitTrumpf : {false, true}) {
+        std::vector<int> zwei{PikNeun, PikAs};
+        if (mitTrumpf) zwei.push_back(KaroNeun);
+        Situation s(engine::Normalspiel, {{KreuzAs}, zwei, {KreuzKoenig}, {KreuzNeun}});
+        s.nachStich({KreuzAs});
+        EXPECT_EQ(s.waehlt(), PikNeun) << mitTrumpf;
+        EXPECT_EQ(s.ersteRegel(), "abwerfen:ZH01") << mitTrumpf;
+        EXPECT_EQ(s.regeln().size(), 1u) << mitTrumpf;
+        EXPECT_EQ(s.zeigte(players::text::AbwurfStattStechen), mitTrumpf);
     }
 }

@@ -102,15 +102,13 @@ TEST(Bedienen, AllRegelSpieltZufaelligDieVerlangteArt) {
     for (int runde = 0; runde < 8; ++runde) {
         Situation s(engine::Normalspiel, {{KreuzAs}, {KreuzNeun, KreuzKoenig, KaroNeun}, {KreuzZehn}, {KreuzKoenig}});
         s.zufall = engine::SeedZufall(static_cast<std::uint64_t>(runde));
-        s.spielt(KreuzAs);
-        s.wissenAufbauen();
+        s.nachStich({KreuzAs});
         const int karte = s.waehlt();
         EXPECT_TRUE(karte == KreuzNeun || karte == KreuzKoenig);
         EXPECT_EQ(s.ersteRegel(), "Farbe_bedienen:ALL");
     }
     Situation s(engine::Normalspiel, {{KaroNeun}, {KreuzNeun, KaroAs, PikDame}, {KaroZehn}, {KaroKoenig}});
-    s.spielt(KaroNeun);
-    s.wissenAufbauen();
+    s.nachStich({KaroNeun});
     const int karte = s.waehlt();
     EXPECT_TRUE(karte == KaroAs || karte == PikDame);
     EXPECT_EQ(s.ersteRegel(), "Trumpf_bedienen:ALL");

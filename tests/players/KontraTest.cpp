@@ -215,26 +215,17 @@ TEST(LimitPruefen, SicherNachAugenUndKarten) {
 }
 
 TEST(LimitPruefen, NurAmAufspielNachDemErstenStichMitBekanntenParteien) {
-    {
-        Limitlage l(0, 0, 4);
-        l.s.spielt(PikBube);
-        EXPECT_EQ(players::limitPruefen(l.s.lage()), std::nullopt) << "nicht am Aufspiel";
-    }
-    {
-        Limitlage l(0, 0);
-        l.s.spiel.sticheGespielt = 0;
-        EXPECT_EQ(players::limitPruefen(l.s.lage()), std::nullopt) << "vor dem ersten Stich";
-    }
-    {
-        Limitlage l(0, 0);
-        l.s.glaubt(1, 3, engine::ParteiUnbekannt);
-        EXPECT_EQ(players::limitPruefen(l.s.lage()), std::nullopt) << "Partei unbekannt";
-    }
-    {
-        Limitlage l(0, 0);
-        l.s.spiel.limitSitz = Sitz(2);
-        l.s.spiel.limitCode = engine::Keine90;
-        EXPECT_EQ(players::limitPruefen(l.s.lage()), std::nullopt) << "schon ein Limit";
+    struct Zeile { const char* name; int aufspieler; void (*aendern)(Situation&); };
+    const Zeile zeilen[] = {
+        {"nicht am Aufspiel", 4, [](Situation& s) { s.spielt(PikBube); }},
+        {"vor dem ersten Stich", 1, [](Situation& s) { s.spiel.sticheGespielt = 0; }},
+        {"Partei unbekannt", 1, [](Situation& s) { s.glaubt(1, 3, engine::ParteiUnbekannt); }},
+        {"schon ein Limit", 1, [](Situation& s) { s.spiel.limitSitz = Sitz(2); s.spiel.limitCode = engine::Keine90; }},
+    };
+    for (const Zeile& z : zeilen) {
+        Limitlage l(0, 0, z.aufspieler);
+        z.aendern(l.s);
+        EXPECT_EQ(players::limitPruefen(l.s.lage()), std::nullopt) << z.name;
     }
 }
 

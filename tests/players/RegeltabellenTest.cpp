@@ -39,8 +39,7 @@ TEST(Regeltabellen, SatzTraegtSeinenCode) {
 TEST(Regelstatistik, ZaehltEntscheidungenRegelnUndRueckfall) {
     players::Regelstatistik statistik;
     testhilfe::Situation s(engine::Normalspiel, {{karten::KreuzAs}, {karten::PikNeun, karten::PikAs}, {karten::KreuzNeun}, {karten::KreuzKoenig}});
-    s.spielt(karten::KreuzAs);
-    s.wissenAufbauen();
+    s.nachStich({karten::KreuzAs});
     players::Regelwerk regelwerk(s.wissen, s.zufall, &statistik);
     regelwerk.karteWaehlen(s.spiel, engine::Sitz(2));
     regelwerk.karteWaehlen(s.spiel, engine::Sitz(2));

@@ -2,6 +2,7 @@
 // A constructed moment of a game: hands (shorter than a full hand when tricks have
 // gone), the trick so far, the table's knowledge; then ask the rule book.
 #include <array>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -72,6 +73,12 @@ public:
     }
     // Builds the knowledge from the game as set up; adjust beliefs afterwards.
     void wissenAufbauen() { wissen.nachvollziehen(spiel); }
+    // The trick so far from its leader on, then the knowledge.
+    void nachStich(std::initializer_list<int> codes) {
+        for (int code : codes) spielt(code);
+        wissenAufbauen();
+    }
+    int code(int pos) const { return spiel.deck[pos].code; }
     // After wissenAufbauen: seat x truly is of party p and knows it.
     void partei(int x, int p) {
         const engine::Sitz s(x);

@@ -49,8 +49,7 @@ TEST(Solospiel, KeinSicheresStechenOhneAugen) {
     Situation s(engine::PikSolo, {{PikNeun, KreuzDame, KreuzNeun}, {KaroNeun, Dolle}, {HerzKoenig, KaroNeun}, {HerzNeun, KaroKoenig}});
     s.solo(1);
     s.aufspieler(4);
-    s.spielt(HerzNeun);
-    s.wissenAufbauen();
+    s.nachStich({HerzNeun});
     s.frei(2, engine::Herz);
     s.waehlt();
     ASSERT_FALSE(s.regeln().empty());

@@ -52,14 +52,7 @@ TEST(StechenOderAbwerfen, Hinterhand) {
         {"Partei hält, letzte Karte", {kreuz, neun, {PikDame, KreuzKoenig}, {KaroNeun}},
          {KreuzAs, KreuzNeun, KreuzKoenig}, freundHaelt, {"stechen_oder_abwerfen:HH08"}, KaroNeun},
     };
-    for (const Fall& f : faelle) {
-        Situation s(engine::Normalspiel, f.haende);
-        for (int code : f.stich) s.spielt(code);
-        s.wissenAufbauen();
-        if (f.wissen) f.wissen(s);
-        EXPECT_EQ(s.waehlt(), f.karte) << f.name;
-        EXPECT_EQ(s.regeln(), f.regeln) << f.name;
-    }
+    for (const Fall& f : faelle) pruefen(f);
 }
 
 // The Hochzeit announcer gives the seat he wants as partner a high card instead of trumping.
@@ -73,8 +66,7 @@ TEST(StechenOderAbwerfen, HochzeiterGibtMitgift) {
         Situation s(engine::Normalspiel, {{KreuzAs}, {KaroDame}, {KreuzKoenig}, z.hand});
         s.spiel.hochzeiter = engine::Sitz(4);
         s.spiel.hochzeitArt = engine::ErsterFehlstich;
-        for (int code : {KreuzAs, KaroDame, KreuzKoenig}) s.spielt(code);
-        s.wissenAufbauen();
+        s.nachStich({KreuzAs, KaroDame, KreuzKoenig});
         s.partei(4, ParteiRe);
         EXPECT_EQ(s.waehlt(), z.karte) << z.regel;
         EXPECT_EQ(s.ersteRegel(), z.regel);
@@ -86,8 +78,7 @@ TEST(StechenOderAbwerfen, HochzeiterGibtMitgift) {
 TEST(StechenOderAbwerfen, DolleNichtFuerDenLetztenStichAufheben) {
     Situation s(engine::Normalspiel, {{KreuzAs, Dolle}, {KaroBube}, {KreuzKoenig}, {HerzBube, Dolle}});
     s.spiel.regeln.herzZehn = false;
-    for (int code : {KreuzAs, KaroBube, KreuzKoenig}) s.spielt(code);
-    s.wissenAufbauen();
+    s.nachStich({KreuzAs, KaroBube, KreuzKoenig});
     EXPECT_EQ(s.waehlt(), Dolle);
     // The replacement reports from inside the rule's choice, before the rule itself.
     EXPECT_EQ(s.regeln(), (std::vector<std::string>{"Filter:Dolle", "stechen_oder_abwerfen:HH36"}));
@@ -96,81 +87,65 @@ TEST(StechenOderAbwerfen, DolleNichtFuerDenLetztenStichAufheben) {
 
 TEST(StechenOderAbwerfen, HerzNichtStechenSondernAbgeworfeneFarbe) {
     Situation s(engine::Normalspiel, {{HerzNeun}, {HerzNeun}, {HerzKoenig}, {KaroNeun, PikKoenig, PikAs}});
-    for (int code : {HerzNeun, HerzNeun, HerzKoenig}) s.spielt(code);
-    s.wissenAufbauen();
+    s.nachStich({HerzNeun, HerzNeun, HerzKoenig});
     s.wissen.abwurfZaehler[engine::Sitz(4)][engine::Pik] = 1;
     EXPECT_EQ(s.waehlt(), PikKoenig);
     EXPECT_EQ(s.regeln(), (std::vector<std::string>{"stechen_oder_abwerfen:HH33", "Filter:Herz"}));
 }
 
-TEST(Filter, Freispielen) {
-    // Hinterhand discards onto the partner's trick; a lone Pik-König frees Pik.
-    Situation s(engine::Normalspiel, {{KreuzAs}, {KreuzNeun}, {KreuzKoenig}, {KaroNeun, PikKoenig, HerzKoenig, HerzNeun}});
-    for (int code : {KreuzAs, KreuzNeun, KreuzKoenig}) s.spielt(code);
-    s.wissenAufbauen();
-    const auto lage = s.lage();
-    EXPECT_EQ(s.spiel.deck[players::freispielenFilter(lage, s.position(4, HerzKoenig))].code, PikKoenig);
-    EXPECT_EQ(s.spiel.deck[players::freispielenFilter(lage, s.position(4, HerzNeun))].code, HerzNeun);
-    EXPECT_EQ(s.spiel.deck[players::freispielenFilter(lage, s.position(4, KaroNeun))].code, KaroNeun);
-}
-
-// Filters asked directly for a seat in Dritthand, with Hinterhand still to play.
-TEST(Filter, DolleUndNageln) {
-    {
-        // Second Dolle beats the first and may sit with the opponent behind: take with the Dame.
-        Situation s(engine::Normalspiel, {{KaroBube}, {KaroNeun}, {Dolle, PikDame}, {Dolle, KaroKoenig}});
-        s.spiel.regeln.herzZehn = false;
-        s.spielt(KaroBube);
-        s.spielt(KaroNeun);
-        s.wissenAufbauen();
+// The filters asked directly about the card a rule chose, with the cards after it still to come.
+TEST(Filter, ErsetzenDieGewaehlteKarte) {
+    using players::text::KarteNunmehrMit, players::text::UebernehmeStatt;
+    using Filter = int (*)(const players::Lage&, int);
+    struct Zeile {
+        const char* name;
+        Filter filter;
+        std::vector<std::vector<int>> haende;
+        std::initializer_list<int> stich;
+        bool ersteDolleHoch;
+        int gewaehlt, karte;
+        std::string meldung;  // "" for none
+        bool hhOhneTrumpf = false;
+    };
+    const std::string dolleNicht = std::string(UebernehmeStatt) + "1" + std::string(KarteNunmehrMit) + "2" +
+                                   std::string(players::text::DolleNichtAnNachfolgenden);
+    const std::string nageln = std::string(players::text::NageleStatt) + "1" + std::string(KarteNunmehrMit) + "2" +
+                               std::string(players::text::KarteEnde);
+    const std::vector<int> hh{KaroNeun, PikKoenig, HerzKoenig, HerzNeun};
+    const Zeile zeilen[] = {
+        // Hinterhand discards onto the partner's trick; a lone Pik-König frees Pik.
+        {"Herz-König frei", players::freispielenFilter, {{KreuzAs}, {KreuzNeun}, {KreuzKoenig}, hh},
+         {KreuzAs, KreuzNeun, KreuzKoenig}, true, HerzKoenig, PikKoenig, ""},
+        {"Herz-Neun bleibt", players::freispielenFilter, {{KreuzAs}, {KreuzNeun}, {KreuzKoenig}, hh},
+         {KreuzAs, KreuzNeun, KreuzKoenig}, true, HerzNeun, HerzNeun, ""},
+        {"Trumpf bleibt", players::freispielenFilter, {{KreuzAs}, {KreuzNeun}, {KreuzKoenig}, hh},
+         {KreuzAs, KreuzNeun, KreuzKoenig}, true, KaroNeun, KaroNeun, ""},
+        // The second Dolle beats the first and may sit behind: take with the Dame.
+        {"Dolle beim Übernehmen", players::dolleBeimUebernehmen,
+         {{KaroBube}, {KaroNeun}, {Dolle, PikDame}, {Dolle, KaroKoenig}}, {KaroBube, KaroNeun}, false, Dolle, PikDame,
+         dolleNicht},
+        // The Kreuz-Dame behind could beat the Pik-Dame; the Dolle nails the Fuchs trick.
+        {"Dolle nageln", players::dolleNagelnFilter, {{KaroAs}, {KaroNeun}, {PikDame, Dolle}, {KreuzDame, KaroKoenig}},
+         {KaroAs, KaroNeun}, true, PikDame, Dolle, nageln},
+        // Second beats first does not apply to a Kreuz-Dame: the Dolle takes the trick and stays.
+        {"Dolle nimmt", players::fuchsKarlchenDolleFilter, {{KaroBube}, {KreuzDame}, {Dolle, KreuzBube}, {KaroKoenig}},
+         {KaroBube, KreuzDame}, false, Dolle, Dolle, "", true},
+        {"Karlchen statt Dolle", players::fuchsKarlchenDolleFilter, {{KaroBube}, {Dolle}, {Dolle, KreuzBube}, {KaroKoenig}},
+         {KaroBube, Dolle}, true, Dolle, KreuzBube, std::string(players::text::KarlchenStattDolle)},
+        {"Dame, die nur verliert", players::fuchsKarlchenDolleFilter,
+         {{KaroBube}, {KreuzDame}, {PikDame, KaroNeun}, {KaroKoenig}}, {KaroBube, KreuzDame}, true, PikDame, KaroNeun,
+         std::string(players::text::FigurAuchNicht)},
+    };
+    for (const Zeile& z : zeilen) {
+        Situation s(engine::Normalspiel, z.haende);
+        s.spiel.regeln.herzZehn = z.ersteDolleHoch;
+        s.nachStich(z.stich);
+        if (z.hhOhneTrumpf) s.ohneTrumpf(4);
         const auto lage = s.lage();
-        EXPECT_EQ(s.spiel.deck[players::dolleBeimUebernehmen(lage, s.position(3, Dolle))].code, PikDame);
-        EXPECT_TRUE(s.zeigte(std::string(players::text::UebernehmeStatt) + "1" + std::string(players::text::KarteNunmehrMit) +
-                             "2" + std::string(players::text::DolleNichtAnNachfolgenden)));
-    }
-    {
-        // The Pik-Dame could still be beaten by the Kreuz-Dame behind; the Dolle nails the Fuchs trick.
-        Situation s(engine::Normalspiel, {{KaroAs}, {KaroNeun}, {PikDame, Dolle}, {KreuzDame, KaroKoenig}});
-        s.spielt(KaroAs);
-        s.spielt(KaroNeun);
-        s.wissenAufbauen();
-        const auto lage = s.lage();
-        EXPECT_EQ(s.spiel.deck[players::dolleNagelnFilter(lage, s.position(3, PikDame))].code, Dolle);
-        EXPECT_TRUE(s.zeigte(std::string(players::text::NageleStatt) + "1" + std::string(players::text::KarteNunmehrMit) +
-                             "2" + std::string(players::text::KarteEnde)));
-    }
-}
-
-TEST(Filter, FuchsKarlchenDolle) {
-    {
-        // A Dolle that takes the trick stays.
-        Situation s(engine::Normalspiel, {{KaroBube}, {KreuzDame}, {Dolle, KreuzBube}, {KaroKoenig}});
-        s.spiel.regeln.herzZehn = false;
-        s.spielt(KaroBube);
-        s.spielt(KreuzDame);
-        s.wissenAufbauen();
-        s.ohneTrumpf(4);
-        const auto lage = s.lage();
-        // The Dolle wins here (second beats first does not apply to a Kreuz-Dame), so no change.
-        EXPECT_EQ(s.spiel.deck[players::fuchsKarlchenDolleFilter(lage, s.position(3, Dolle))].code, Dolle);
-    }
-    {
-        Situation s(engine::Normalspiel, {{KaroBube}, {Dolle}, {Dolle, KreuzBube}, {KaroKoenig}});
-        s.spielt(KaroBube);
-        s.spielt(Dolle);
-        s.wissenAufbauen();
-        const auto lage = s.lage();
-        EXPECT_EQ(s.spiel.deck[players::fuchsKarlchenDolleFilter(lage, s.position(3, Dolle))].code, KreuzBube);
-        EXPECT_TRUE(s.zeigte(players::text::KarlchenStattDolle));
-    }
-    {
-        // A Dame that only loses: spare it for a small trump.
-        Situation s(engine::Normalspiel, {{KaroBube}, {KreuzDame}, {PikDame, KaroNeun}, {KaroKoenig}});
-        s.spielt(KaroBube);
-        s.spielt(KreuzDame);
-        s.wissenAufbauen();
-        const auto lage = s.lage();
-        EXPECT_EQ(s.spiel.deck[players::fuchsKarlchenDolleFilter(lage, s.position(3, PikDame))].code, KaroNeun);
-        EXPECT_TRUE(s.zeigte(players::text::FigurAuchNicht));
+        const int sitz = s.spiel.stich.amZug().nr();
+        EXPECT_EQ(s.code(z.filter(lage, s.position(sitz, z.gewaehlt))), z.karte) << z.name;
+        if (!z.meldung.empty()) {
+            EXPECT_TRUE(s.zeigte(z.meldung)) << z.name;
+        }
     }
 }

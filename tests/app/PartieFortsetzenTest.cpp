@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "PartieFortsetzen.h"
+#include "engine/AblaufHilfen.h"
 #include "engine/Selbstspiel.h"
 #include "engine/Spielablauf.h"
 #include "engine/Zufall.h"
@@ -43,19 +44,11 @@ savegame::Spielstand gespielt(int karten) {
     for (const engine::Sitz s : engine::alleSitze) spiel.steuerung[s] = engine::Steuerung::Computer;
     ablauf.neuePartie();
     players::KleinsteKarte spieler;
-    engine::Selbstspiel selbst(ablauf, engine::ProSitz<engine::Entscheider*>(&spieler));
-    if (karten >= 48) {
-        selbst.spielen(1);
-    } else {
-        while (spiel.ablauf.phase != engine::Spielphase::Kartenspiel || 4 * spiel.sticheGespielt + spiel.stich.anzahl < karten) {
-            const engine::Anfrage a = ablauf.anfrage();
-            if (a.art == engine::Anfrageart::Karte) ablauf.antworten(engine::Antwort::karte(spieler.karteWaehlen(spiel, *a.sitz)));
-            else if (a.art == engine::Anfrageart::Geben) ablauf.antworten(engine::Antwort::zufallsGeben());
-            else if (a.art == engine::Anfrageart::Vorbehalt) ablauf.antworten(engine::Antwort::mitVorbehalt({}));
-            else if (a.art == engine::Anfrageart::Neugeben) ablauf.antworten(engine::Antwort::neugeben(false));
-            else ablauf.antworten(engine::Antwort::weiter(a.art));
-        }
-    }
+    const engine::ProSitz<engine::Entscheider*> alle(&spieler);
+    if (karten >= 48) engine::Selbstspiel(ablauf, alle).spielen(1);
+    while (karten < 48 &&
+           (spiel.ablauf.phase != engine::Spielphase::Kartenspiel || 4 * spiel.sticheGespielt + spiel.stich.anzahl < karten))
+        testhilfe::beantworten(ablauf, spiel, alle);
     savegame::Spielstand stand;
     stand.spiel = spiel;
     return stand;

@@ -5,6 +5,7 @@
 #include <QTableWidget>
 #include <gtest/gtest.h>
 
+#include "Bildablage.h"
 #include "QtAusgabe.h"
 
 #include "engine/Neugeben.h"
@@ -22,14 +23,6 @@ namespace {
 
 using namespace engine;
 
-// With TRUMPONA_TESTBILDER set the dialogs are kept as pictures for looking at.
-void bildAblegen(QWidget& w, const QString& name) {
-    const QString ordner = qEnvironmentVariable("TRUMPONA_TESTBILDER");
-    if (ordner.isEmpty()) return;
-    w.adjustSize();
-    w.grab().save(QDir(ordner).filePath(name + QStringLiteral(".png")));
-}
-
 // German standard buttons come from Qt's translation, which the package list installs.
 TEST(Dialoge, FrageHatJaUndNeinMitDenKarten) {
     table::Kartenbilder bilder;
@@ -42,7 +35,7 @@ TEST(Dialoge, FrageHatJaUndNeinMitDenKarten) {
     EXPECT_EQ(frage.knoepfe()->button(QDialogButtonBox::No)->text().remove(QLatin1Char('&')), QStringLiteral("Nein"));
     EXPECT_EQ(frage.karten(), neunen);
     EXPECT_TRUE(frage.text().startsWith(QStringLiteral("Sie haben 5 Neunen!")));
-    bildAblegen(frage, QStringLiteral("neunen"));
+    testhilfe::bildAblegen(frage, QStringLiteral("neunen"), true);
 
     table::Meldungsdialog hinweis(bilder, QStringLiteral("RE-Ausruf!"), QStringLiteral("Spieler3 ruft Re aus!"), {},
                                   table::Meldungsdialog::Art::Hinweis);
@@ -74,7 +67,7 @@ TEST(Dialoge, HochzeitDialogMitDenDreiArten) {
     dialog->waehlen(ErsterTrumpfstich);
     dialog->accept();
     EXPECT_EQ(dialog->gewaehlt(), ErsterTrumpfstich);
-    bildAblegen(*dialog, QStringLiteral("hochzeit"));
+    testhilfe::bildAblegen(*dialog, QStringLiteral("hochzeit"), true);
 }
 
 TEST(Dialoge, SpielzettelZeilenSummenUndEndzeile) {
@@ -99,7 +92,7 @@ TEST(Dialoge, SpielzettelZeilenSummenUndEndzeile) {
     EXPECT_EQ(t.item(2, 1)->text(), QStringLiteral("9"));
     EXPECT_EQ(zettel.endzeile(), QStringLiteral("Partieende nach 24 Spielen"));
     zettel.resize(520, 260);
-    bildAblegen(zettel, QStringLiteral("spielzettel"));
+    testhilfe::bildAblegen(zettel, QStringLiteral("spielzettel"), true);
 
     EXPECT_EQ(table::partieendeZeile(1, 30, 24), "Partieende bei Überschreiten von 30 Punkten");
     EXPECT_EQ(table::partieendeZeile(1, 1, 24), "Partieende bei Überschreiten von 1 Punkt");
@@ -119,7 +112,7 @@ TEST(Dialoge, SpielendeZeigtTextUndPunkte) {
     EXPECT_EQ(box.tabelle().item(0, 3)->text(), QStringLiteral("2"));
     EXPECT_EQ(box.tabelle().item(1, 0)->text(), QStringLiteral("5"));
     EXPECT_EQ(box.tabelle().item(0, 1)->text(), QStringLiteral("0"));
-    bildAblegen(box, QStringLiteral("spielende"));
+    testhilfe::bildAblegen(box, QStringLiteral("spielende"), true);
 }
 
 StichProtokoll stich(Sitz aufspieler, Sitz gewinner, int augen, std::array<int, 4> codes) {
@@ -144,7 +137,7 @@ TEST(Dialoge, StichbetrachterBlaettertUndNenntAnsagen) {
     EXPECT_EQ(betrachter.beschreibung(),
               QStringLiteral("2. Stich: Spieler3 spielt aus, Spieler2 gewinnt mit 28 Augen\nKontra angesagt\n"
                              "Spieler4: Limitgebot (keine 90)"));
-    bildAblegen(betrachter, QStringLiteral("stich"));
+    testhilfe::bildAblegen(betrachter, QStringLiteral("stich"), true);
     betrachter.blaettern(-1);
     EXPECT_EQ(betrachter.beschreibung(), QStringLiteral("1. Stich: Spieler1 spielt aus, Spieler3 gewinnt mit 21 Augen"));
     betrachter.blaettern(-1);

@@ -15,6 +15,7 @@
 #include <map>
 
 #include "Modal.h"
+#include "Bildablage.h"
 #include "QtAusgabe.h"
 #include "Testdateiwahl.h"
 #include "settings/Benutzerspeicher.h"
@@ -25,12 +26,6 @@
 namespace {
 
 using settings::Einstellungen;
-
-// With TRUMPONA_TESTBILDER set each tab is kept as a picture for looking at.
-void bildAblegen(QWidget& w, const QString& name) {
-    const QString ordner = qEnvironmentVariable("TRUMPONA_TESTBILDER");
-    if (!ordner.isEmpty()) w.grab().save(QDir(ordner).filePath(name + QStringLiteral(".png")));
-}
 
 // Changes a control to another value it offers and returns the value as the file keeps it.
 int aendern(QWidget* w) {
@@ -309,7 +304,7 @@ TEST_F(EinstellformTest, BilderDerReiter) {
         // Nothing is cut off: the dialog's size fits every tab.
         EXPECT_GE(form.reiter()->currentWidget()->width(), form.reiter()->currentWidget()->minimumSizeHint().width());
         EXPECT_GE(form.reiter()->currentWidget()->height(), form.reiter()->currentWidget()->minimumSizeHint().height());
-        bildAblegen(form, QStringLiteral("einstellungen-%1").arg(i + 1));
+        testhilfe::bildAblegen(form, QStringLiteral("einstellungen-%1").arg(i + 1));
     }
 }
 

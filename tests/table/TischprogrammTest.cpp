@@ -13,8 +13,10 @@
 #include <functional>
 #include <gtest/gtest.h>
 
+#include "Bildablage.h"
 #include "QtAusgabe.h"
 #include "Testdateiwahl.h"
+#include "engine/AblaufHilfen.h"
 #include "engine/Spielablauf.h"
 #include "engine/Stichspiel.h"
 #include "players/EinfacheSpieler.h"
@@ -35,11 +37,6 @@
 namespace {
 
 using engine::Sitz;
-
-void bildAblegen(QWidget& w, const QString& name) {
-    const QString ordner = qEnvironmentVariable("TRUMPONA_TESTBILDER");
-    if (!ordner.isEmpty()) w.grab().save(QDir(ordner).filePath(name + QStringLiteral(".png")));
-}
 
 // Waits (running the event loop) until `bedingung` holds; false after `ms`.
 bool warten(const std::function<bool()>& bedingung, int ms = 20000) { return QTest::qWaitFor(bedingung, ms); }
@@ -137,7 +134,7 @@ TEST_F(TischprogrammTest, WillkommenBeimErstenStart) {
         antworten_ = [&](QWidget* w) {
             if (auto* seite = qobject_cast<table::Regelseite*>(w)) {
                 regeltext = seite->text();
-                bildAblegen(*seite, QStringLiteral("spielregeln"));
+                testhilfe::bildAblegen(*seite, QStringLiteral("spielregeln"));
                 seite->reject();
                 return true;
             }
@@ -146,7 +143,7 @@ TEST_F(TischprogrammTest, WillkommenBeimErstenStart) {
             EXPECT_EQ(willkommen->windowTitle(), QStringLiteral("Willkommen"));
             // First the rules, then back to the same screen.
             if (gesehen++ == 0) {
-                bildAblegen(*willkommen, QStringLiteral("willkommen"));
+                testhilfe::bildAblegen(*willkommen, QStringLiteral("willkommen"));
                 willkommen->regelnKnopf()->click();
                 return true;
             }
@@ -193,7 +190,7 @@ TEST_F(TischprogrammTest, GespeicherteParteMittenImStichSiehtGeladenGleichAus) {
         vorher = a.hfo.tisch().grab().toImage();
         gespeichert = a.spiel();
         statusVorher = a.hfo.status();
-        bildAblegen(a.hfo, QStringLiteral("vor-dem-speichern"));
+        testhilfe::bildAblegen(a.hfo, QStringLiteral("vor-dem-speichern"));
     }
     Tisch b(ordner_.path(), 99);
     b.steuerung.neuePartie();
@@ -208,7 +205,7 @@ TEST_F(TischprogrammTest, GespeicherteParteMittenImStichSiehtGeladenGleichAus) {
     EXPECT_EQ(b.spiel().deck, gespeichert.deck);
     EXPECT_EQ(b.spiel().stich, gespeichert.stich);
     EXPECT_EQ(b.hfo.status(), statusVorher);
-    bildAblegen(b.hfo, QStringLiteral("nach-dem-laden"));
+    testhilfe::bildAblegen(b.hfo, QStringLiteral("nach-dem-laden"));
     EXPECT_TRUE(b.hfo.tisch().grab().toImage() == vorher);
     EXPECT_TRUE(boxen_.isEmpty()) << boxen_.join(QLatin1Char('|')).toStdString();
 
@@ -227,17 +224,8 @@ engine::Spiel beendetesSpiel() {
     engine::Spielablauf ablauf(spiel, zufall);
     players::KleinsteKarte spieler;
     ablauf.neuePartie();
-    for (engine::Anfrage a = ablauf.anfrage(); a.art != engine::Anfrageart::NaechstesSpiel; a = ablauf.anfrage()) {
-        switch (a.art) {
-            case engine::Anfrageart::Geben: ablauf.antworten(engine::Antwort::zufallsGeben()); break;
-            case engine::Anfrageart::Neugeben: ablauf.antworten(engine::Antwort::neugeben(false)); break;
-            case engine::Anfrageart::Vorbehalt: ablauf.antworten(engine::Antwort::mitVorbehalt({})); break;
-            case engine::Anfrageart::Karte:
-                ablauf.antworten(engine::Antwort::karte(spieler.karteWaehlen(spiel, *a.sitz)));
-                break;
-            default: ablauf.antworten(engine::Antwort::weiter(a.art)); break;
-        }
-    }
+    while (ablauf.anfrage().art != engine::Anfrageart::NaechstesSpiel)
+        testhilfe::beantworten(ablauf, spiel, engine::ProSitz<engine::Entscheider*>(&spieler));
     return spiel;
 }
 
@@ -254,7 +242,6 @@ TEST_F(TischprogrammTest, LadeablaufMitSeinenMeldungen) {
     };
     const QString fremd = schreiben("fremd.dkp", "XYZ\r\n1\r\n");
     const QString alt = schreiben("alt.dkp", "RUPA-PARTIE19\r\n1\r\n2\r\n");
-    const QString kaputt = schreiben("kaputt.dkp", "RUPA-PARTIE26\r\n1\r\n");
 
     const struct {
         QString datei;
@@ -265,10 +252,6 @@ TEST_F(TischprogrammTest, LadeablaufMitSeinenMeldungen) {
         {alt,
          {QStringLiteral("Diese Datei ist veraltet."),
           QStringLiteral("Keine gültige Doppelkopf-Datei oder die Datei ist beschädigt!"),
-          QStringLiteral("Es wurde keine gültige Partie ausgewählt.\nEs wird eine neue Partie gestartet.")},
-         true},
-        {kaputt,
-         {QStringLiteral("Keine gültige Doppelkopf-Datei oder die Datei ist beschädigt!"),
           QStringLiteral("Es wurde keine gültige Partie ausgewählt.\nEs wird eine neue Partie gestartet.")},
          true},
     };
@@ -355,7 +338,7 @@ TEST_F(TischprogrammTest, ManuelleVerteilungGibtDieGewaehltenHaende) {
             if (!dialog) return false;
             if (!unvollstaendigAbgelehnt) {
                 // One card by a click, then OK with 47 cards on the pile: refused.
-                bildAblegen(*dialog, QStringLiteral("verteilung-anfang"));
+                testhilfe::bildAblegen(*dialog, QStringLiteral("verteilung-anfang"));
                 dialog->sitzWaehlen(Sitz(3));
                 table::Kartenfeld* stapel = dialog->stapelfeld();
                 QTest::mouseClick(stapel, Qt::LeftButton, {}, stapel->kartenmitte(0));
@@ -371,7 +354,7 @@ TEST_F(TischprogrammTest, ManuelleVerteilungGibtDieGewaehltenHaende) {
                 ++i;
             }
             for (const Sitz s : engine::alleSitze) gewaehlt[s] = dialog->verteilung().hand(s);
-            bildAblegen(*dialog, QStringLiteral("verteilung"));
+            testhilfe::bildAblegen(*dialog, QStringLiteral("verteilung"));
             dialog->accept();
             return true;
         };
@@ -389,12 +372,9 @@ TEST_F(TischprogrammTest, ManuelleVerteilungGibtDieGewaehltenHaende) {
                 hand.push_back(t.spiel().deck[p].code);
             EXPECT_EQ(hand, gewaehlt[s]) << s.nr();
         }
-        const auto& erste = gewaehlt[Sitz(1)];
-        EXPECT_EQ(std::count(erste.begin(), erste.end(), engine::JokerCode) +
-                      std::count(gewaehlt[Sitz(2)].begin(), gewaehlt[Sitz(2)].end(), engine::JokerCode) +
-                      std::count(gewaehlt[Sitz(3)].begin(), gewaehlt[Sitz(3)].end(), engine::JokerCode) +
-                      std::count(gewaehlt[Sitz(4)].begin(), gewaehlt[Sitz(4)].end(), engine::JokerCode),
-                  f.joker ? 1 : 0);
+        long joker = 0;
+        for (const auto& hand : gewaehlt) joker += std::count(hand.begin(), hand.end(), engine::JokerCode);
+        EXPECT_EQ(joker, f.joker ? 1 : 0);
     }
 }
 

@@ -82,12 +82,6 @@ TEST(Abwerfen, DritthandNachBesitzDesStichs) {
         {"Partner hält, HH kann stechen", {{KreuzAs}, {KreuzNeun}, ohneTrumpf, {KaroNeun, PikKoenig, KreuzKoenig}},
          {KreuzAs, KreuzNeun}, [](Situation& s) { kontra(s, 1); s.frei(4, engine::Kreuz); }, {"abwerfen:DH004"},
          PikNeun},
-    };
-    for (const Fall& f : faelle) pruefen(f);
-}
-
-TEST(Abwerfen, DritthandAufTrumpf) {
-    const Fall faelle[] = {
         {"Gegner hält, Freund in HH hat höheres Trumpf", {{KaroDame}, {KaroNeun}, ohneTrumpf, {PikDame, KaroKoenig}},
          {KaroDame, KaroNeun}, [](Situation& s) { re(s, 1); kontra(s, 4); }, {"abwerfen:DH014A"}, PikAs},
         {"Gegner hält, HH ohne Trumpf", {{KaroDame}, {KaroNeun}, ohneTrumpf, {PikKoenig}}, {KaroDame, KaroNeun},

@@ -14,6 +14,17 @@ using testhilfe::Fall;
 using testhilfe::Situation;
 using testhilfe::pruefen;
 
+namespace {
+template <int Solist>
+void solistFrei(Situation& s) {
+    s.solo(Solist);
+    s.frei(Solist, engine::Pik);
+    s.frei(Solist, engine::Herz);
+    s.wissen.angespielt[engine::Herz] = 2;
+    s.wissen.angespielt[engine::Pik] = 1;
+}
+}  // namespace
+
 TEST(Ausspiel, Kette) {
     const Fall faelle[] = {
         {"die höchsten Trümpfe ziehen zuerst", {{KreuzDame, KreuzDame, PikAs}, {PikDame, PikNeun}, {PikKoenig}, {HerzNeun}}, {},
@@ -38,20 +49,19 @@ TEST(Ausspiel, Kette) {
         {"kleiner Trumpf, dann die Dolle statt sie blank zu spielen",
          {{Dolle, KaroNeun, KreuzNeun, KreuzKoenig}, {Dolle, PikDame}, {KreuzAs, HerzNeun}, {PikKoenig}}, {}, nullptr,
          {"AusspielWaehlen:11", "Filter:DolleBlank"}, Dolle},
+        // The partner holds the other trumps, the opponents none: the Dolle stays, and the
+        // Kreuz goes that the opponents can neither follow nor trump.
+        {"blanke Dolle nicht ohne Gegnertrumpf", {{Dolle, KreuzNeun, KreuzKoenig}, {PikNeun}, {KaroNeun, KaroKoenig}, {HerzNeun}},
+         {}, [](Situation& s) { s.glaubt(1, 3, ParteiKontra); s.ohneTrumpf(2); s.ohneTrumpf(4); }, {"AusspielWaehlen:08"},
+         KreuzKoenig},
+        // The soloist void in Pik and Herz: Herz was led twice, Pik once. Sitting right before
+        // the leader he plays last, so only the suit led twice will do.
+        {"Solist in Hinterhand soll stechen", {{PikNeun, HerzNeun}, {KreuzNeun}, {PikAs, HerzAs}, {KaroNeun, KaroKoenig, KaroZehn}},
+         {}, solistFrei<4>, {"AusspielWaehlen:14"}, HerzNeun},
+        {"Solist in Zweithand soll stechen", {{PikNeun, HerzNeun}, {KaroNeun, KaroKoenig, KaroZehn}, {PikAs, HerzAs}, {KreuzNeun}},
+         {}, solistFrei<2>, {"AusspielWaehlen:14"}, PikNeun},
     };
     for (const Fall& f : faelle) pruefen(f);
-}
-
-TEST(Ausspiel, BlankeDolleNichtOhneGegnerTrumpf) {
-    // The partner holds the other trumps, the opponents none: the Dolle stays, and the
-    // Kreuz goes that the opponents can neither follow nor trump.
-    Situation s(engine::Normalspiel, {{Dolle, KreuzNeun, KreuzKoenig}, {PikNeun}, {KaroNeun, KaroKoenig}, {HerzNeun}});
-    s.wissenAufbauen();
-    s.glaubt(1, 3, ParteiKontra);
-    s.ohneTrumpf(2);
-    s.ohneTrumpf(4);
-    EXPECT_EQ(s.waehlt(), KreuzKoenig);
-    EXPECT_EQ(s.ersteRegel(), "AusspielWaehlen:08");
 }
 
 TEST(Ausspiel, TrumpfVonObenOpfertKeineZaehler) {
@@ -65,22 +75,3 @@ TEST(Ausspiel, TrumpfVonObenOpfertKeineZaehler) {
     for (const auto& r : s.regeln()) EXPECT_NE(r, "AusspielWaehlen:07");
 }
 
-// The soloist void in Pik and Herz: Herz was led twice, Pik once. Sitting right before
-// the leader he plays last, so only the suit led twice will do.
-TEST(Ausspiel, SolistSollStechen) {
-    struct Zeile { int solist; int karte; };
-    for (const Zeile z : {Zeile{4, HerzNeun}, Zeile{2, PikNeun}}) {
-        std::vector<std::vector<int>> haende{{PikNeun, HerzNeun}, {}, {PikAs, HerzAs}, {}};
-        haende[static_cast<std::size_t>(z.solist - 1)] = {KaroNeun, KaroKoenig, KaroZehn};
-        haende[static_cast<std::size_t>(6 - z.solist - 1)] = {KreuzNeun};
-        Situation s(engine::Normalspiel, haende);
-        s.wissenAufbauen();
-        s.solo(z.solist);
-        s.frei(z.solist, engine::Pik);
-        s.frei(z.solist, engine::Herz);
-        s.wissen.angespielt[engine::Herz] = 2;
-        s.wissen.angespielt[engine::Pik] = 1;
-        EXPECT_EQ(s.waehlt(), z.karte) << z.solist;
-        EXPECT_EQ(s.ersteRegel(), "AusspielWaehlen:14") << z.solist;
-    }
-}

@@ -22,7 +22,8 @@ void hochzeitVon(Situation& s, int sitz, int art) {
 
 }  // namespace
 
-TEST(FarbeBedienen, Dritthand) {
+TEST(FarbeBedienen, DritthandUndHinterhand) {
+    const auto hochzeit1 = [](Situation& s) { hochzeitVon(s, 1, engine::ErsterFehlstich); };
     const Fall faelle[] = {
         {"Stich des Feindes mit der Höchsten nehmen", {{KreuzZehn}, {KreuzNeun}, {KreuzAs, KreuzKoenig}, {KreuzKoenig}},
          {KreuzZehn, KreuzNeun}, nullptr, {"Farbe_bedienen:DH0150"}, KreuzAs},
@@ -32,13 +33,6 @@ TEST(FarbeBedienen, Dritthand) {
          {KreuzZehn, KreuzNeun}, nullptr, {"Farbe_bedienen:DH0247"}, KreuzNeun},
         {"Feind hat gestochen", {{KreuzZehn}, {KaroNeun}, {KreuzAs, KreuzNeun}, {KreuzKoenig}}, {KreuzZehn, KaroNeun},
          nullptr, {"Farbe_bedienen:DH0248"}, KreuzNeun},
-    };
-    for (const Fall& f : faelle) pruefen(f);
-}
-
-TEST(FarbeBedienen, Hinterhand) {
-    const auto hochzeit1 = [](Situation& s) { hochzeitVon(s, 1, engine::ErsterFehlstich); };
-    const Fall faelle[] = {
         {"Stich des Feindes gerade so nehmen", {{KreuzKoenig}, {KreuzNeun}, {KreuzNeun}, {KreuzAs, KreuzZehn, KreuzNeun}},
          {KreuzKoenig, KreuzNeun, KreuzNeun}, nullptr, {"Farbe_bedienen:HH14"}, KreuzZehn},
         {"Hochzeit: so hoch wie möglich nehmen und heiraten", {{KreuzKoenig}, {KreuzNeun}, {KreuzNeun}, {KreuzAs, KreuzZehn}},
@@ -59,6 +53,7 @@ TEST(TrumpfBedienen, Hinterhand) {
         return [sitz](Situation& s) { hochzeitVon(s, sitz, engine::ErsterTrumpfstich); };
     };
     const auto ichRe = [](Situation& s) { s.partei(4, ParteiRe); };
+    const auto solo2 = [](Situation& s) { s.solo(2); };
     const Fall faelle[] = {
         {"Feind hält, nicht zu schlagen", {{Dolle}, {KaroNeun}, {KaroKoenig}, {KaroNeun, KaroAs}}, {Dolle, KaroNeun, KaroKoenig},
          nullptr, {"Trumpf_bedienen:HH018"}, KaroNeun},
@@ -77,14 +72,7 @@ TEST(TrumpfBedienen, Hinterhand) {
          {KaroDame, KaroNeun, KaroKoenig}, ichRe, {"Trumpf_bedienen:HH07"}, KaroZehn, hochzeit(4)},
         {"übernehmen um zu heiraten", {{KaroDame}, {KaroNeun}, {KaroKoenig}, {KreuzBube, PikDame}},
          {KaroDame, KaroNeun, KaroKoenig}, nullptr, {"Trumpf_bedienen:HH08"}, PikDame, hochzeit(1)},
-    };
-    for (const Fall& f : faelle) pruefen(f);
-}
-
-// Against a soloist (seat 2) the partners mind who will sit last in the next trick.
-TEST(TrumpfBedienen, HinterhandGegenSolisten) {
-    const auto solo2 = [](Situation& s) { s.solo(2); };
-    const Fall faelle[] = {
+        // Against a soloist (seat 2) the partners mind who will sit last in the next trick.
         {"Partner hält, Solist kommt nicht in HH", {{PikDame}, {KaroNeun}, {KaroKoenig}, {KaroZehn, KaroNeun}},
          {PikDame, KaroNeun, KaroKoenig}, solo2, {"Trumpf_bedienen:HH05"}, KaroZehn},
         {"Partner hält, sonst käme der Solist in HH: übernehmen", {{KaroNeun}, {KaroKoenig}, {PikDame}, {KreuzDame, KaroNeun}},

@@ -109,65 +109,44 @@ TEST(KontraPruefen, AsseUndZehnenDerFehlfarben) {
     }
 }
 
-// The party that already holds the Augen it needs announces at once, at any score.
-TEST(KontraPruefen, BereitsGewonnenSagtSofortAn) {
-    struct Zeile { const char* name; int sitz; std::array<int, 4> augen; bool ansagen; };
+// The hard rules by the Augen so far decide alone and say why: the party that holds
+// the Augen it needs announces at once, at any score; with its own keine 90 and the
+// others 11 Augen short of breaking it, not even with the game won; the opponents'
+// limit broken, Kontra; a game that cannot be won any more, nothing.
+TEST(KontraPruefen, HarteRegelnNachDenAugen) {
+    const std::string gewonnen(players::text::BereitsGewonnen), nicht(players::text::NichtGewinnbar);
+    const std::string gefahr = "Spieler2" + std::string(players::text::EigenesLimitInGefahr);
+    const std::string erreicht = "Gebe Kontra, weil gegnerisches Limit von 90 bereits erreicht!";
+    struct Zeile { const char* name; int sitz; std::array<int, 4> augen; int limitSitz; bool ansagen;
+                   std::string text; bool gezeigt; };
     const Zeile zeilen[] = {
-        {"Re mit 121", 2, {0, 121, 0, 0}, true},
-        {"Re mit 121 zusammen mit dem Partner", 2, {60, 61, 0, 0}, true},
-        {"Re mit 120", 2, {0, 120, 0, 0}, false},
-        {"Kontra mit 120", 3, {0, 0, 60, 60}, true},
+        {"Re mit 121", 2, {0, 121, 0, 0}, 0, true, gewonnen, true},
+        {"Re mit 121 zusammen mit dem Partner", 2, {60, 61, 0, 0}, 0, true, gewonnen, true},
+        {"Re mit 120", 2, {0, 120, 0, 0}, 0, false, gewonnen, false},
+        {"Kontra mit 120", 3, {0, 0, 60, 60}, 0, true, gewonnen, true},
+        {"eigenes Limit, die anderen 11 zu kurz", 2, {0, 130, 79, 0}, 2, false, gefahr, true},
+        {"eigenes Limit, die anderen 12 zu kurz", 2, {0, 130, 78, 0}, 2, true, gefahr, false},
+        {"gegnerisches Limit gebrochen", 2, {50, 40, 20, 0}, 3, true, erreicht, true},
+        {"gegnerisches Limit noch nicht", 2, {49, 40, 20, 0}, 3, false, erreicht, false},
+        {"Re, die anderen mit 119", 2, {0, 0, 119, 0}, 0, false, nicht, true},
+        {"Re, die anderen mit 118", 2, {0, 0, 118, 0}, 0, false, nicht, false},
+        {"Kontra, die anderen mit 120", 3, {60, 60, 0, 0}, 0, false, nicht, true},
     };
     for (const Zeile& z : zeilen) {
         Ansagelage a(z.sitz, 4, false);
+        if (z.limitSitz) a.limit(z.limitSitz, engine::Keine90);
         a.augen(z.augen[0], z.augen[1], z.augen[2], z.augen[3]);
         const players::Ansagepruefung e = a.pruefen();
         EXPECT_EQ(e.ansagen, z.ansagen) << z.name;
-        if (z.ansagen) {
+        EXPECT_EQ(a.s.zeigte(z.text), z.gezeigt) << z.name;
+        if (z.text == gewonnen && z.gezeigt) {
             EXPECT_EQ(e.wert, players::AnsageSicher) << z.name;
-            EXPECT_TRUE(a.s.zeigte(players::text::BereitsGewonnen)) << z.name;
         }
     }
 }
 
-// Seat 2 announced keine 90: with the others 11 Augen short of it, no announcement,
-// not even with the game won; one Augen further off it goes on.
-TEST(KontraPruefen, EigenesLimitInGefahr) {
-    struct Zeile { int andere; bool ansagen; };
-    for (const Zeile z : {Zeile{79, false}, Zeile{78, true}}) {
-        Ansagelage a(2, 4, false);
-        a.limit(2, engine::Keine90);
-        a.augen(0, 130, z.andere, 0);
-        EXPECT_EQ(a.pruefen().ansagen, z.ansagen) << z.andere;
-        EXPECT_EQ(a.s.zeigte("Spieler2" + std::string(players::text::EigenesLimitInGefahr)), !z.ansagen) << z.andere;
-    }
-}
-
-TEST(KontraPruefen, GegnerischesLimitErreicht) {
-    struct Zeile { int eigene; bool ansagen; };
-    for (const Zeile z : {Zeile{90, true}, Zeile{89, false}}) {
-        Ansagelage a(2, 4, false);
-        a.limit(3, engine::Keine90);
-        a.augen(z.eigene - 40, 40, 20, 0);
-        EXPECT_EQ(a.pruefen().ansagen, z.ansagen) << z.eigene;
-        EXPECT_EQ(a.s.zeigte("Gebe Kontra, weil gegnerisches Limit von 90 bereits erreicht!"), z.ansagen) << z.eigene;
-    }
-}
-
-TEST(KontraPruefen, NichtGewinnbarUndKeinAusspielEntscheid) {
-    struct Zeile { const char* name; int sitz; std::array<int, 4> augen; bool hinweis; };
-    const Zeile zeilen[] = {
-        {"Re, die anderen mit 119", 2, {0, 0, 119, 0}, true},
-        {"Re, die anderen mit 118", 2, {0, 0, 118, 0}, false},
-        {"Kontra, die anderen mit 120", 3, {60, 60, 0, 0}, true},
-    };
-    for (const Zeile& z : zeilen) {
-        Ansagelage a(z.sitz, 4, false);
-        a.augen(z.augen[0], z.augen[1], z.augen[2], z.augen[3]);
-        EXPECT_FALSE(a.pruefen().ansagen) << z.name;
-        EXPECT_EQ(a.s.zeigte(players::text::NichtGewinnbar), z.hinweis) << z.name;
-    }
-    // Leading after the first trick the seat does not decide at all.
+// Leading after the first trick the seat does not decide at all.
+TEST(KontraPruefen, KeinEntscheidAmAufspiel) {
     Situation s(engine::Normalspiel, Ansagelage::haende(true));
     s.spiel.ablauf.phase = engine::Spielphase::Kartenspiel;
     s.aufspieler(2);
@@ -199,33 +178,26 @@ struct Limitlage {
 
 }  // namespace
 
+// Only leading, after the first trick, with the parties known and no limit yet:
+// the safest limit that the opponents' Augen and tricks still allow.
 TEST(LimitPruefen, SicherNachAugenUndKarten) {
-    struct Zeile { const char* name; int augen; int stiche; std::optional<int> limit; };
+    struct Zeile { const char* name; int augen, stiche, aufspieler; void (*aendern)(Situation&); std::optional<int> limit; };
     const Zeile zeilen[] = {
-        {"Gegner ohne Stich", 0, 0, engine::LimitSchwarz},
-        {"Gegner mit 15 Augen", 15, 1, engine::Keine30},
-        {"Gegner mit 25 Augen", 25, 1, engine::Keine60},
-        {"Gegner mit 79 Augen", 79, 1, engine::Keine90},
-        {"Gegner mit 80 Augen", 80, 1, std::nullopt},
+        {"Gegner ohne Stich", 0, 0, 1, nullptr, engine::LimitSchwarz},
+        {"Gegner mit 15 Augen", 15, 1, 1, nullptr, engine::Keine30},
+        {"Gegner mit 25 Augen", 25, 1, 1, nullptr, engine::Keine60},
+        {"Gegner mit 79 Augen", 79, 1, 1, nullptr, engine::Keine90},
+        {"Gegner mit 80 Augen", 80, 1, 1, nullptr, std::nullopt},
+        {"nicht am Aufspiel", 0, 0, 4, [](Situation& s) { s.spielt(PikBube); }, std::nullopt},
+        {"vor dem ersten Stich", 0, 0, 1, [](Situation& s) { s.spiel.sticheGespielt = 0; }, std::nullopt},
+        {"Partei unbekannt", 0, 0, 1, [](Situation& s) { s.glaubt(1, 3, engine::ParteiUnbekannt); }, std::nullopt},
+        {"schon ein Limit", 0, 0, 1,
+         [](Situation& s) { s.spiel.limitSitz = Sitz(2); s.spiel.limitCode = engine::Keine90; }, std::nullopt},
     };
     for (const Zeile& z : zeilen) {
-        Limitlage l(z.augen, z.stiche);
+        Limitlage l(z.augen, z.stiche, z.aufspieler);
+        if (z.aendern) z.aendern(l.s);
         EXPECT_EQ(players::limitPruefen(l.s.lage()), z.limit) << z.name;
-    }
-}
-
-TEST(LimitPruefen, NurAmAufspielNachDemErstenStichMitBekanntenParteien) {
-    struct Zeile { const char* name; int aufspieler; void (*aendern)(Situation&); };
-    const Zeile zeilen[] = {
-        {"nicht am Aufspiel", 4, [](Situation& s) { s.spielt(PikBube); }},
-        {"vor dem ersten Stich", 1, [](Situation& s) { s.spiel.sticheGespielt = 0; }},
-        {"Partei unbekannt", 1, [](Situation& s) { s.glaubt(1, 3, engine::ParteiUnbekannt); }},
-        {"schon ein Limit", 1, [](Situation& s) { s.spiel.limitSitz = Sitz(2); s.spiel.limitCode = engine::Keine90; }},
-    };
-    for (const Zeile& z : zeilen) {
-        Limitlage l(0, 0, z.aufspieler);
-        z.aendern(l.s);
-        EXPECT_EQ(players::limitPruefen(l.s.lage()), std::nullopt) << z.name;
     }
 }
 

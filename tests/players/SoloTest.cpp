@@ -117,88 +117,71 @@ TEST(SicheresSolo, GleicherVerlustMehrTruempfeDannHerz) {
     }
 }
 
-TEST(SoloPruefen, SicheresSoloMeldetSich) {
-    Vorbehaltlage v(zehnHoheTruempfe(HerzAs, PikAs));
-    const players::Solowahl w = v.pruefen();
-    EXPECT_EQ(w.art, engine::HerzSolo);
-    EXPECT_EQ(w.grund, Sologrund::Sicher);
-    EXPECT_EQ(v.letzterText(), "Spieler1 hat  s i c h e r e s  Solo bei Trumpf = 2 gefunden!");
-    EXPECT_FALSE(v.tabellen.stillesSoloSpieler);
+std::vector<int> mit(std::vector<int> hand, int karte) {
+    hand.push_back(karte);
+    return hand;
 }
 
-// Ten Karo trumps with three of Zehn and As, but only Dolle and Kreuz-Dame high: no solo;
-// a Pik-Dame for the Herz-Bube makes three high trumps and the Karo-Solo.
-TEST(SoloPruefen, ZehnTruempfeBrauchenDreiHohe) {
-    const std::vector<int> basis{KaroAs, KaroAs, KaroZehn, KaroZehn, KaroKoenig, Dolle, KreuzDame, KaroBube, KaroDame,
-                                 PikAs, KreuzAs};
-    struct Zeile { const char* name; int karte; int art; };
-    for (const Zeile& z : {Zeile{"zwei hohe", HerzBube, 0}, Zeile{"drei hohe", PikDame, engine::Normalspiel}}) {
-        std::vector<int> hand = basis;
-        hand.push_back(z.karte);
-        Vorbehaltlage v(hand, 2);
-        const players::Solowahl w = v.pruefen();
-        EXPECT_EQ(w.art, z.art) << z.name;
-        if (z.art != 0) {
-            EXPECT_EQ(w.grund, Sologrund::Farbe) << z.name;
-            EXPECT_EQ(v.letzterText(), "Sage unsicheres Solo der Farbe 1 an!") << z.name;
-        }
-    }
-}
-
-// A blank Pik-König beside a Kreuz-Solo: it only matters when the seat leads first.
-TEST(SoloPruefen, BlankerKoenigNurAmAufspiel) {
-    const std::vector<int> hand{KreuzAs, KreuzAs, KreuzZehn, KreuzZehn, KreuzKoenig, Dolle, Dolle, KreuzDame, PikDame,
-                                PikBube, PikKoenig, HerzAs};
-    struct Zeile { const char* name; int vorhand; bool vhSolo; int art; };
-    const Zeile zeilen[] = {
-        {"Vorhand", 1, false, 0},
-        {"Zweithand", 2, false, engine::KreuzSolo},
-        {"Zweithand, Solospieler hat Vorhand", 2, true, 0},
-    };
-    for (const Zeile& z : zeilen) {
-        Vorbehaltlage v(hand, z.vorhand);
-        v.s.spiel.regeln.vhSolo = z.vhSolo;
-        EXPECT_EQ(v.pruefen().art, z.art) << z.name;
-    }
-}
-
-// Kreuz 4 points, Pik 3, Herz 1: exactly 8, played only without a loose Zehn.
-TEST(SoloPruefen, FleischlosMitGenauAchtPunkten) {
-    const std::vector<int> basis{KreuzAs, KreuzAs, KreuzZehn, KreuzKoenig, PikAs, PikAs, PikZehn, HerzAs, HerzKoenig,
-                                 KaroNeun, KaroBube};
-    struct Zeile { const char* name; int karte; int art; };
-    for (const Zeile& z : {Zeile{"ohne lose Zehn", KaroKoenig, engine::SoloOhneTrumpf}, Zeile{"mit loser Zehn", KaroZehn, 0}}) {
-        std::vector<int> hand = basis;
-        hand.push_back(z.karte);
-        Vorbehaltlage v(hand);
-        const players::Solowahl w = v.pruefen();
-        EXPECT_EQ(w.art, z.art) << z.name;
-        EXPECT_EQ(v.tabellen.langeFarbe[Sitz(1)], z.art ? engine::Kreuz : 0) << z.name;
-    }
-}
-
-TEST(SoloPruefen, FigurenSoloUndDamenBubenSolo) {
-    // Without the second Kreuz-Bube the trumps cannot be pulled: no safe solo.
+TEST(SoloPruefen, Faelle) {
+    using engine::Normalspiel;
+    // Ten Karo trumps with three of Zehn and As, but only Dolle and Kreuz-Dame high.
+    const std::vector<int> zehnKaro{KaroAs, KaroAs, KaroZehn, KaroZehn, KaroKoenig, Dolle, KreuzDame, KaroBube,
+                                    KaroDame, PikAs, KreuzAs};
+    // A Kreuz-Solo beside a blank Pik-König.
+    const std::vector<int> blankerKoenig{KreuzAs, KreuzAs, KreuzZehn, KreuzZehn, KreuzKoenig, Dolle, Dolle, KreuzDame,
+                                         PikDame, PikBube, PikKoenig, HerzAs};
+    // Kreuz 4 points, Pik 3, Herz 1: exactly 8.
+    const std::vector<int> achtPunkte{KreuzAs, KreuzAs, KreuzZehn, KreuzKoenig, PikAs, PikAs, PikZehn, HerzAs,
+                                      HerzKoenig, KaroNeun, KaroBube};
+    // Without the second Kreuz-Bube the trumps cannot be pulled.
     const std::vector<int> buben{KreuzBube, KaroBube, PikBube, PikBube, HerzBube, KaroAs, HerzAs, PikAs, KreuzAs,
                                  HerzNeun, PikNeun, KreuzNeun};
     const std::vector<int> sechsBuben{KreuzBube, KreuzBube, PikBube, PikBube, HerzBube, HerzBube, KaroAs, HerzAs, PikAs,
                                       KreuzAs, PikNeun, KreuzNeun};
     const std::vector<int> figuren{KreuzDame, PikDame, PikDame, HerzDame, HerzDame, KaroDame, KaroDame, KreuzBube,
                                    PikBube, PikBube, HerzBube, KreuzAs};
-    struct Zeile { const char* name; std::vector<int> hand; int vorhand; bool dabu; int art; Sologrund grund; };
+    struct Zeile {
+        const char* name;
+        std::vector<int> hand;
+        int vorhand;
+        bool vhSolo, dabu;
+        int art;
+        Sologrund grund;
+        std::string text;     // the last report, "" unchecked
+        int langeFarbe = -1;  // -1 unchecked
+    };
     const Zeile zeilen[] = {
-        {"fünf Buben und vier Asse in Vorhand", buben, 1, false, engine::BubenSolo, Sologrund::Buben},
-        {"fünf Buben reichen sonst nicht", buben, 2, false, 0, Sologrund::Keiner},
-        {"sechs Buben", sechsBuben, 2, false, engine::BubenSolo, Sologrund::Buben},
-        {"elf Damen und Buben in Vorhand", figuren, 1, true, engine::DamenBubenSolo, Sologrund::DamenBuben},
-        {"elf Damen und Buben ohne die Regel", figuren, 1, false, 0, Sologrund::Keiner},
+        {"sicheres Herz-Solo", zehnHoheTruempfe(HerzAs, PikAs), 1, false, false, engine::HerzSolo, Sologrund::Sicher,
+         "Spieler1 hat  s i c h e r e s  Solo bei Trumpf = 2 gefunden!"},
+        {"zehn Trümpfe, zwei hohe", mit(zehnKaro, HerzBube), 2, false, false, 0, Sologrund::Keiner, ""},
+        {"zehn Trümpfe, drei hohe", mit(zehnKaro, PikDame), 2, false, false, Normalspiel, Sologrund::Farbe,
+         "Sage unsicheres Solo der Farbe 1 an!"},
+        {"blanker König in Vorhand", blankerKoenig, 1, false, false, 0, Sologrund::Keiner, ""},
+        {"blanker König in Zweithand", blankerKoenig, 2, false, false, engine::KreuzSolo, Sologrund::Farbe, ""},
+        {"blanker König, Solospieler hat Vorhand", blankerKoenig, 2, true, false, 0, Sologrund::Keiner, ""},
+        {"fleischlos ohne lose Zehn", mit(achtPunkte, KaroKoenig), 1, false, false, engine::SoloOhneTrumpf,
+         Sologrund::Fleischlos, "", engine::Kreuz},
+        {"fleischlos mit loser Zehn", mit(achtPunkte, KaroZehn), 1, false, false, 0, Sologrund::Keiner, "", 0},
+        {"fünf Buben und vier Asse in Vorhand", buben, 1, false, false, engine::BubenSolo, Sologrund::Buben, ""},
+        {"fünf Buben reichen sonst nicht", buben, 2, false, false, 0, Sologrund::Keiner, ""},
+        {"sechs Buben", sechsBuben, 2, false, false, engine::BubenSolo, Sologrund::Buben, ""},
+        {"elf Damen und Buben in Vorhand", figuren, 1, false, true, engine::DamenBubenSolo, Sologrund::DamenBuben, ""},
+        {"elf Damen und Buben ohne die Regel", figuren, 1, false, false, 0, Sologrund::Keiner, ""},
     };
     for (const Zeile& z : zeilen) {
         Vorbehaltlage v(z.hand, z.vorhand);
+        v.s.spiel.regeln.vhSolo = z.vhSolo;
         v.s.spiel.regeln.dabuSolo = z.dabu;
         const players::Solowahl w = v.pruefen();
         EXPECT_EQ(w.art, z.art) << z.name;
         EXPECT_EQ(w.grund, z.grund) << z.name;
+        if (!z.text.empty()) {
+            EXPECT_EQ(v.letzterText(), z.text) << z.name;
+        }
+        if (z.langeFarbe >= 0) {
+            EXPECT_EQ(v.tabellen.langeFarbe[Sitz(1)], z.langeFarbe) << z.name;
+        }
+        EXPECT_FALSE(v.tabellen.stillesSoloSpieler) << z.name;
     }
 }
 

@@ -18,6 +18,11 @@ using testhilfe::pruefen;
 namespace {
 
 void freundHaelt(Situation& s) { s.glaubt(4, 1, ParteiKontra); }
+void ichRe(Situation& s) { s.partei(4, ParteiRe); }
+void hochzeiter4(Situation& s) {
+    s.spiel.hochzeiter = engine::Sitz(4);
+    s.spiel.hochzeitArt = engine::ErsterFehlstich;
+}
 
 }  // namespace
 
@@ -51,26 +56,17 @@ TEST(StechenOderAbwerfen, Hinterhand) {
          {KreuzAs, KreuzNeun, KreuzKoenig}, freundHaelt, {"stechen_oder_abwerfen:HH04"}, KaroNeun},
         {"Partei hält, letzte Karte", {kreuz, neun, {PikDame, KreuzKoenig}, {KaroNeun}},
          {KreuzAs, KreuzNeun, KreuzKoenig}, freundHaelt, {"stechen_oder_abwerfen:HH08"}, KaroNeun},
+        // The Hochzeit announcer gives the seat he wants as partner a high card instead of trumping.
+        {"Hochzeiter gibt Mitgift", {kreuz, {KaroDame}, koenig, {KaroNeun, PikAs, PikNeun}},
+         {KreuzAs, KaroDame, KreuzKoenig}, ichRe, {"stechen_oder_abwerfen:HH24"}, PikAs, hochzeiter4},
+        {"Hochzeiter ohne Mitgift", {kreuz, {KaroDame}, koenig, {KaroNeun, PikDame}}, {KreuzAs, KaroDame, KreuzKoenig},
+         ichRe, {"stechen_oder_abwerfen:HH25"}, KaroNeun, hochzeiter4},
+        // A Herz trick is not ruffed; the discard comes from the suit thrown before.
+        {"Herz nicht stechen", {{HerzNeun}, {HerzNeun}, {HerzKoenig}, {KaroNeun, PikKoenig, PikAs}},
+         {HerzNeun, HerzNeun, HerzKoenig}, [](Situation& s) { s.wissen.abwurfZaehler[engine::Sitz(4)][engine::Pik] = 1; },
+         {"stechen_oder_abwerfen:HH33", "Filter:Herz"}, PikKoenig},
     };
     for (const Fall& f : faelle) pruefen(f);
-}
-
-// The Hochzeit announcer gives the seat he wants as partner a high card instead of trumping.
-TEST(StechenOderAbwerfen, HochzeiterGibtMitgift) {
-    struct Zeile { std::vector<int> hand; const char* regel; int karte; };
-    const Zeile zeilen[] = {
-        {{KaroNeun, PikAs, PikNeun}, "stechen_oder_abwerfen:HH24", PikAs},
-        {{KaroNeun, PikDame}, "stechen_oder_abwerfen:HH25", KaroNeun},
-    };
-    for (const Zeile& z : zeilen) {
-        Situation s(engine::Normalspiel, {{KreuzAs}, {KaroDame}, {KreuzKoenig}, z.hand});
-        s.spiel.hochzeiter = engine::Sitz(4);
-        s.spiel.hochzeitArt = engine::ErsterFehlstich;
-        s.nachStich({KreuzAs, KaroDame, KreuzKoenig});
-        s.partei(4, ParteiRe);
-        EXPECT_EQ(s.waehlt(), z.karte) << z.regel;
-        EXPECT_EQ(s.ersteRegel(), z.regel);
-    }
 }
 
 // With "second Dolle beats the first", a Dolle kept for the last trick would have to
@@ -83,14 +79,6 @@ TEST(StechenOderAbwerfen, DolleNichtFuerDenLetztenStichAufheben) {
     // The replacement reports from inside the rule's choice, before the rule itself.
     EXPECT_EQ(s.regeln(), (std::vector<std::string>{"Filter:Dolle", "stechen_oder_abwerfen:HH36"}));
     EXPECT_TRUE(s.zeigte(std::string(players::text::UebernehmeStatt) + "1" + std::string(players::text::DolleNichtImLetzten)));
-}
-
-TEST(StechenOderAbwerfen, HerzNichtStechenSondernAbgeworfeneFarbe) {
-    Situation s(engine::Normalspiel, {{HerzNeun}, {HerzNeun}, {HerzKoenig}, {KaroNeun, PikKoenig, PikAs}});
-    s.nachStich({HerzNeun, HerzNeun, HerzKoenig});
-    s.wissen.abwurfZaehler[engine::Sitz(4)][engine::Pik] = 1;
-    EXPECT_EQ(s.waehlt(), PikKoenig);
-    EXPECT_EQ(s.regeln(), (std::vector<std::string>{"stechen_oder_abwerfen:HH33", "Filter:Herz"}));
 }
 
 // The filters asked directly about the card a rule chose, with the cards after it still to come.

@@ -17,10 +17,7 @@ using namespace app;
 
 namespace {
 
-struct Lauf {
-    int status;
-    std::string aus, fehler;
-};
+struct Lauf { int status; std::string aus, fehler; };
 
 Lauf laden(const std::string& inhalt, int spiele = 2) {
     const auto pfad = std::filesystem::temp_directory_path() / ("trumpona-laden-" + std::to_string(::getpid()) + ".dkp");

@@ -11,10 +11,7 @@ namespace {
 // Strength of codes 1..25 per game type, typed from the rule tables; a negative
 // entry marks a trump card (its effective suit becomes the trump value).
 // Order within a suit: Neun, Bube, Dame, König, Zehn, As.
-struct Zeile {
-    int spieltyp;
-    std::array<int, 25> staerken;
-};
+struct Zeile { int spieltyp; std::array<int, 25> staerken; };
 
 const std::array<Zeile, 8> tabelle{{
     {1, {-1, -256, -65536, -4, -16, -32,              // Karo

@@ -55,10 +55,7 @@ private:
     Zufallsquelle& zufall_;
 };
 
-struct Regelsatz {
-    const char* name;
-    void (*setzen)(RegelOptionen&);
-};
+struct Regelsatz { const char* name; void (*setzen)(RegelOptionen&); };
 
 const Regelsatz regelsaetze[] = {
     {"Standard", [](RegelOptionen&) {}},

@@ -15,11 +15,7 @@ double zug(int r) { return (r - 1 + 0.5) / 48.0; }
 }  // namespace
 
 TEST(Geben, JedeVerteilungIstEinVollesDeck) {
-    struct Fall {
-        int kartenanzahl;
-        bool joker;
-        int joker_soll;
-    };
+    struct Fall { int kartenanzahl; bool joker; int joker_soll; };
     for (const Fall f : {Fall{48, false, 0}, Fall{48, true, 1}, Fall{40, false, 0}, Fall{40, true, 0}}) {
         for (std::uint64_t seed = 1; seed <= 50; ++seed) {
             SeedZufall zufall(seed);
@@ -77,11 +73,7 @@ TEST(Geben, FalscheVerteilungWirdErkannt) {
     const Kartenverteilung gut40 = kartenZiehen(40, false, zufall);
     ASSERT_EQ(verteilungPruefen(gut48, 48, false), "");
     ASSERT_EQ(verteilungPruefen(gut40, 40, false), "");
-    struct Fall {
-        const char* name;
-        int kartenanzahl;
-        void (*aendern)(Kartenverteilung&);
-    };
+    struct Fall { const char* name; int kartenanzahl; void (*aendern)(Kartenverteilung&); };
     const Fall faelle[] = {
         {"Code 0", 48, [](Kartenverteilung& k) { k[5] = 0; }},
         {"Code 26", 48, [](Kartenverteilung& k) { k[5] = 26; }},

@@ -23,12 +23,7 @@ Spiel mitHand(std::vector<int> hand) {
 }  // namespace
 
 TEST(Neugeben, Schwellen) {
-    struct Fall {
-        const char* name;
-        int grund;
-        std::vector<int> hand;
-        bool darf;
-    };
+    struct Fall { const char* name; int grund; std::vector<int> hand; bool darf; };
     const Fall faelle[] = {
         {"4 Neunen: nein", NeunenWerfen, {KaroNeun, HerzNeun, PikNeun, KreuzNeun, KreuzDame, KaroAs}, false},
         {"5 Neunen: ja", NeunenWerfen, {KaroNeun, KaroNeun, HerzNeun, PikNeun, KreuzNeun, KreuzDame}, true},
@@ -44,12 +39,7 @@ TEST(Neugeben, ComputerBehaeltStarkeHandNurUeberDerGrenze) {
     // 5 Neunen (two of them trump) and 5 high trumps: 7 trumps.
     const std::vector<int> hand{KaroNeun, KaroNeun, HerzNeun,  HerzNeun,  PikNeun,
                                 HerzZehn, HerzZehn, KreuzDame, KreuzDame, PikDame};
-    struct Fall {
-        const char* name;
-        long long summe;
-        bool mitSiebenTruempfen;
-        bool fragt;
-    };
+    struct Fall { const char* name; long long summe; bool mitSiebenTruempfen; bool fragt; };
     const Fall faelle[] = {
         {"Summe genau 23085089: fragt", 23085089, true, true},
         {"Summe 23085090: behält", 23085090, true, false},

@@ -23,11 +23,7 @@ struct Fall {
     std::string ersteMeldung;
 };
 
-struct Bewertung {
-    std::vector<std::string> arten;
-    std::vector<int> parteien;
-    std::vector<std::string> meldungen;
-};
+struct Bewertung { std::vector<std::string> arten; std::vector<int> parteien; std::vector<std::string> meldungen; };
 
 // Seats 1 and 2 are Re; the trick is played and judged as trick 1 or as the last one.
 Bewertung bewerten(const Fall& f) {

@@ -101,12 +101,7 @@ TEST(Spielablauf, FalscheKartenUndAntwortenAendernNichts) {
 // A saved game keeps no phase: loaded, it finds it from the cards, is not booked
 // twice, and plays on exactly as the original (whatever the generator).
 TEST(Spielablauf, GeladenesSpielFindetSeinePhaseUndLaeuftWieDasOriginal) {
-    struct Fall {
-        const char* name;
-        int stiche, karten;
-        bool gewertet;
-        Anfrageart soll;
-    };
+    struct Fall { const char* name; int stiche, karten; bool gewertet; Anfrageart soll; };
     const Fall faelle[] = {
         {"mitten im Stich", 4, 2, false, Anfrageart::Karte},
         {"voller Stich liegt", 5, 4, false, Anfrageart::StichEinsammeln},

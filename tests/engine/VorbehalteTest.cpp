@@ -24,11 +24,7 @@ RegelOptionen mitVorhand(int v) {
 }  // namespace
 
 TEST(Vorbehalte, SoloFrageDesMenschen) {
-    struct Fall {
-        int vorhand;
-        bool vhSolo;
-        const char* text;
-    };
+    struct Fall { int vorhand; bool vhSolo; const char* text; };
     const Fall faelle[] = {
         {1, true, "Sie haben Vorhand.\nErwägen Sie ein Solospiel anzusagen?"},
         {4, false,
@@ -133,10 +129,7 @@ TEST(Vorbehalte, UnzulaessigeAntwortenWerdenAbgelehnt) {
 }
 
 namespace {
-struct Hochzeitsstich {
-    bool trumpfGefuehrt;
-    int gewinner;
-};
+struct Hochzeitsstich { bool trumpfGefuehrt; int gewinner; };
 
 // Plays out the Hochzeit of seat 1 over the given tricks; returns the partner, 0
 // for none yet, -1 when seat 1 plays alone.
@@ -164,12 +157,7 @@ int hochzeitspartner(int art, const std::vector<Hochzeitsstich>& stiche) {
 }  // namespace
 
 TEST(Vorbehalte, Hochzeitspartner) {
-    struct Fall {
-        const char* name;
-        int art;
-        std::vector<Hochzeitsstich> stiche;
-        int partner;
-    };
+    struct Fall { const char* name; int art; std::vector<Hochzeitsstich> stiche; int partner; };
     const Fall faelle[] = {
         {"erster Stich an Sitz 3", ErsterStich, {{true, 3}}, 3},
         {"erster Stich an den Hochzeiter, zweiter an Sitz 2", ErsterStich, {{true, 1}, {false, 2}}, 2},
@@ -220,13 +208,7 @@ TEST(Vorbehalte, Pflichtsolo) {
 // With "Vh_Solo" the soloist leads; the person's solo moves the game's Vorhand on,
 // a computer's does not, and so the next Vorhand differs with "Hh_n_Solo".
 TEST(Vorbehalte, SolospielerHatVorhand) {
-    struct Fall {
-        const char* name;
-        int solist;
-        bool hhNSolo;
-        int vorhandImSolo;
-        int naechste;
-    };
+    struct Fall { const char* name; int solist; bool hhNSolo; int vorhandImSolo; int naechste; };
     const Fall faelle[] = {
         {"Mensch, danach gemerkter Sitz", 1, false, 4, 4},
         {"Mensch, Hinterhand nach Solo", 1, true, 4, 1},

@@ -147,12 +147,7 @@ TEST(Wertung, PunkteNachFaktorSonderpunktenUndBock) {
 }
 
 TEST(Wertung, SoloBuchungUndKopfzeilen) {
-    struct Fall {
-        const char* name;
-        int solist, augenSolist, sticheSolist;
-        ProSitz<int> punkte;
-        const char* kopf;
-    };
+    struct Fall { const char* name; int solist, augenSolist, sticheSolist; ProSitz<int> punkte; const char* kopf; };
     const Fall faelle[] = {
         {"Solist gewinnt alle Stiche: Punkte einmal", 1, 240, 12, proSitz(5, 0, 0, 0),
          "Sie haben alle Stiche gewonnen!\n"},
@@ -224,12 +219,7 @@ TEST(Wertung, PartieendeUndTabelle) {
 }
 
 TEST(Wertung, Limitzeilen) {
-    struct Fall {
-        const char* name;
-        int limitSitz;
-        int augenRe;
-        const char* zeile;
-    };
+    struct Fall { const char* name; int limitSitz; int augenRe; const char* zeile; };
     const Fall faelle[] = {
         {"eigenes gehalten", 2, 151, "Ihr Limitgebot haben Sie eingehalten!"},
         {"eigenes verfehlt", 2, 140, "Ihr Limitgebot haben Sie nicht eingehalten!"},

@@ -24,10 +24,7 @@ const Wavdaten& klangdatei() {
     return daten;
 }
 
-struct Pegel {
-    double rms = 0;
-    double spitze = 0;
-};
+struct Pegel { double rms = 0; double spitze = 0; };
 
 Pegel pegel(int vonMs, int bisMs) {
     const Wavdaten& w = klangdatei();

@@ -4,10 +4,7 @@
 
 namespace {
 
-struct Farbfall {
-    int windows;
-    int rot, gruen, blau;
-};
+struct Farbfall { int windows; int rot, gruen, blau; };
 
 // Windows colour values keep red in the lowest byte; reading them as RGB would
 // turn the green table blue-ish or the red text blue.

@@ -18,11 +18,7 @@ engine::ProSitz<std::string> namen() {
 }
 
 TEST(Begruendungsanzeige, BoxZeigtSatzUndRegel) {
-    const struct {
-        Meldung meldung;
-        const char* titel;
-        const char* text;
-    } faelle[] = {
+    const struct { Meldung meldung; const char* titel; const char* text; } faelle[] = {
         // The sentence names its rule already.
         {{Meldungsart::Regel, engine::Sitz(3), "abwerfen", "DH030", "Mld.(abwerfen):DH030 Werfe Kleinste ab!", true},
          "Überlegung von Bert", "Mld.(abwerfen):DH030 Werfe Kleinste ab!"},
@@ -41,10 +37,7 @@ TEST(Begruendungsanzeige, BoxZeigtSatzUndRegel) {
 }
 
 TEST(Begruendungsanzeige, BehaeltNurWasGezeigtWerdenSoll) {
-    const struct {
-        Meldung meldung;
-        bool behalten;
-    } faelle[] = {
+    const struct { Meldung meldung; bool behalten; } faelle[] = {
         {{Meldungsart::Regel, engine::Sitz(2), "abwerfen", "DH030", "Satz", true}, true},
         {{Meldungsart::Hinweis, std::nullopt, "", "", "Satz", true}, true},
         {{Meldungsart::Regel, engine::Sitz(2), "abwerfen", "DH030", "Satz", false}, false},  // switch was off

@@ -8,11 +8,7 @@ namespace {
 using namespace engine;
 
 TEST(Dialogtexte, SoloNamenNachBildern) {
-    const struct {
-        int spieltyp;
-        bool franz;
-        const char* name;
-    } faelle[] = {
+    const struct { int spieltyp; bool franz; const char* name; } faelle[] = {
         {Normalspiel, true, "Karo-Solo"},       {Normalspiel, false, "Schellen-Solo"},
         {KreuzSolo, false, "Eichel-Solo"},      {HerzSolo, true, "Herz-Solo"},
         {DamenBubenSolo, false, "Ober-Unter-Solo"}, {SoloOhneTrumpf, true, "Solo ohne Trumpf"},

@@ -177,10 +177,7 @@ TEST_F(EinstellformTest, ExportUndImportStellenAlleWerteWiederHer) {
 }
 
 TEST_F(EinstellformTest, FremdeUndVeralteteDateienWerdenAbgelehnt) {
-    const struct {
-        const char* inhalt;
-        const char* meldung;
-    } faelle[] = {
+    const struct { const char* inhalt; const char* meldung; } faelle[] = {
         {"[Optionen]\r\nProgramm=Fremdkopf\r\nVersionsnr=200\r\nName1=Fremd\r\n", "Keine gültige Doppelkopf-INI-Datei!"},
         {"[Optionen]\r\nProgramm=Trumpona\r\nVersionsnr=199\r\nName1=Alt\r\n",
          "Keine gültige Doppelkopf-INI-Datei oder Datei veraltet! "},
@@ -232,10 +229,7 @@ TEST_F(EinstellformTest, ReiterUndBeschriftungen) {
                                    QStringLiteral("Anzeige"), QStringLiteral("Sound"), QStringLiteral("Netzwerk")}));
     EXPECT_EQ(form.objectName(), QStringLiteral("einstellform"));
 
-    const struct {
-        const char* schluessel;
-        const char* text;
-    } schalter[] = {
+    const struct { const char* schluessel; const char* text; } schalter[] = {
         {"Joker", "Spiel mit Joker"}, {"Solis", "Solospiele zulässig"}, {"Solo", "Pflichtsolo"},
         {"Vh_Solo", "Solospieler hat Vorhand"}, {"Hh_n_Solo", "Anschließend Hinterhand"},
         {"DaBu_Solo", "auch Damen-Buben-Solo"}, {"Bockrunden", "Doppelt nach kaltem Schlag"},
@@ -309,10 +303,7 @@ TEST_F(EinstellformTest, BilderDerReiter) {
 }
 
 TEST(Dateiwahl, FilterUndDialog) {
-    const struct {
-        const char* klassisch;
-        const char* qt;
-    } filter[] = {
+    const struct { const char* klassisch; const char* qt; } filter[] = {
         {"Doppelkopf-INI-Datei (*.dki)|*.dki|Alle Dateien(*.*)|*.*", "Doppelkopf-INI-Datei (*.dki);;Alle Dateien(*.*)"},
         {"Doppelkopf-Partie (*.DKP)|*.dkp|Alle Dateien (*.*)|*.*", "Doppelkopf-Partie (*.DKP);;Alle Dateien (*.*)"},
     };

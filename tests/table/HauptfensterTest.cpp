@@ -13,10 +13,7 @@ namespace {
 TEST(Hauptfenster, MenueeintraegeMitIhrenTexten) {
     table::Hauptfenster hfo;
     EXPECT_EQ(hfo.objectName(), QStringLiteral("hfo"));
-    const struct {
-        const char* name;
-        const char* text;
-    } faelle[] = {
+    const struct { const char* name; const char* text; } faelle[] = {
         {"m_neue_partie", "&Neue Partie"},
         {"m_automatisch", " &Automatisch spielen "},
         {"m_ansage", "&Kontra geben"},

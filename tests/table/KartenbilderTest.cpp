@@ -26,10 +26,7 @@ double unterschied(const QImage& a, const QImage& b) {
 }
 
 TEST(Kartenbilder, ElementIdsDerDecks) {
-    const struct {
-        int code;
-        const char* id;
-    } faelle[] = {
+    const struct { int code; const char* id; } faelle[] = {
         {kartencode(Karo, Neun), "9_diamond"},   {kartencode(Herz, Zehn), "10_heart"},
         {kartencode(Pik, Bube), "jack_spade"},   {kartencode(Kreuz, Dame), "queen_club"},
         {kartencode(Herz, Koenig), "king_heart"}, {kartencode(Kreuz, As), "1_club"},

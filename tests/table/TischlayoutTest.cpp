@@ -8,10 +8,7 @@ using engine::Sitz;
 using table::Kartenplatz;
 using table::Tischlayout;
 
-struct Teil {
-    std::string name;
-    QPolygonF umriss;
-};
+struct Teil { std::string name; QPolygonF umriss; };
 
 // Every piece on a full table: the own fan (lifted as high as a selected card
 // goes), the three face-down hands, a full trick, name plates and party pictures.
@@ -37,10 +34,7 @@ std::vector<std::vector<Teil>> gruppen(const Tischlayout& l, int handgroesse) {
     return g;
 }
 
-struct Flaeche {
-    int breite, hoehe;
-    double seitenverhaeltnis;
-};
+struct Flaeche { int breite, hoehe; double seitenverhaeltnis; };
 
 const Flaeche Flaechen[] = {
     {640, 460, 0.69},  {800, 600, 0.69},  {1024, 720, 0.625}, {1280, 1024, 0.69},

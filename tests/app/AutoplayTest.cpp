@@ -24,19 +24,12 @@ std::string spielen(int spiele, std::uint64_t seed, std::string* bogen = nullptr
 }
 }  // namespace
 
-TEST(Autoplay, EineZeileJeSpielMitAllenSchluesseln) {
+// Every line's keys and values are read back by autoplay_pruefen.py; here: one line per
+// game, a Partie of 24 games, and the score sheet.
+TEST(Autoplay, EineZeileJeSpielUndDerSpielzettel) {
     std::string bogen;
     const auto z = zeilen(spielen(30, 5, &bogen));
     ASSERT_EQ(z.size(), 30u);
-    const char* schluessel[] = {"partie",   "spiel",        "vorhand",  "spieltyp",  "solist",  "hochzeit",
-                                "schweine", "regeln",       "karten",   "stiche",    "ansagen", "partei",
-                                "augen_re", "augen_kontra", "gewinner", "spielwert", "faktor",  "sonderpunkte",
-                                "punkte",   "stand",        "bock",     "text"};
-    for (const std::string& zeile : z) {
-        EXPECT_EQ(zeile.front(), '{');
-        EXPECT_EQ(zeile.back(), '}');
-        for (const char* s : schluessel) EXPECT_NE(zeile.find("\"" + std::string(s) + "\":"), std::string::npos) << s;
-    }
     EXPECT_EQ(z[0].substr(0, 21), "{\"partie\":1,\"spiel\":1");
     EXPECT_NE(z[24].find("{\"partie\":2,\"spiel\":1,"), std::string::npos) << "24 games make a Partie";
     EXPECT_NE(bogen.find("Spielliste: 30 Spiele, Startwert 5"), std::string::npos) << bogen;

@@ -6,12 +6,12 @@
 #include <QVBoxLayout>
 
 #include "Tischtexte.h"
+#include "engine/Wertung.h"
 
 namespace table {
 
 std::string partieendeZeile(int abrOption, int endeBei, int endeNach) {
-    if (abrOption == 1)
-        return texte::PartieendeBei + std::to_string(endeBei) + texte::Punkt + (endeBei > 1 ? "en" : "");
+    if (abrOption == 1) return engine::partieendeText(endeBei);
     return texte::PartieendeNach + std::to_string(endeNach) + texte::Spielen;
 }
 

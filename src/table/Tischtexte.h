@@ -67,8 +67,6 @@ inline constexpr char NochZuVerteilen[] = "Es sind noch ";
 inline constexpr char KartenZuVerteilen[] = " Karten zu verteilen.";
 
 // The score sheet.
-inline constexpr char PartieendeBei[] = "Partieende bei Überschreiten von ";
-inline constexpr char Punkt[] = " Punkt";
 inline constexpr char PartieendeNach[] = "Partieende nach ";
 inline constexpr char Spielen[] = " Spielen";
 inline constexpr char Summe[] = "Summe";

@@ -123,16 +123,20 @@ engine::Entscheider& Tischsteuerung::entscheider(Sitz sitz) {
     return *entscheider_[sitz];
 }
 
-void Tischsteuerung::neuePartie() {
+void Tischsteuerung::ablaufZuruecksetzen() {
     ++schritt_;
     geplant_ = false;
     beschaeftigt_ = false;
     einsammelnLaeuft_ = false;
     partieendeGemeldet_ = false;
     zugGemeldet_ = -1;
+    meldungen_.clear();
+}
+
+void Tischsteuerung::neuePartie() {
+    ablaufZuruecksetzen();
     zeilen_.clear();
     letztesSpiel_ = engine::Spiel{};
-    meldungen_.clear();
     hfo_.partieendeAnzeigen(false);
     ablauf_.neuePartie();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -140,13 +144,7 @@ void Tischsteuerung::neuePartie() {
 }
 
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
-    ++schritt_;
-    geplant_ = false;
-    beschaeftigt_ = false;
-    einsammelnLaeuft_ = false;
-    partieendeGemeldet_ = false;
-    zugGemeldet_ = -1;
-    meldungen_.clear();
+    ablaufZuruecksetzen();
     begruendungen_.verwerfen();
     spiel_ = stand;
     hfo_.tisch().bewegungAbbrechen();

@@ -109,6 +109,8 @@ private:
     void begruendungenZeigen();
     void spielerPassend();
     engine::ProSitz<int> parteibilder() const;
+    // Forgets every step under way (timers, boxes, animations) before a new start.
+    void ablaufZuruecksetzen();
     void zustandUebernehmen(const engine::Spiel& stand);
     void einsammeln();
     void spielendeZeigen();

@@ -4,15 +4,6 @@
 
 namespace engine {
 
-namespace {
-// Any legal card, when a player offered an illegal one.
-int ersteErlaubteKarte(const Spiel& spiel, Sitz sitz) {
-    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
-        if (spiel.deck[p].status == InHand && karteErlaubt(spiel, sitz, p)) return p;
-    return 0;
-}
-}  // namespace
-
 void Selbstspiel::ablehnung(Selbstspielbilanz& bilanz, const Bescheid& b) {
     if (b) return;
     ++bilanz.abgelehnt;

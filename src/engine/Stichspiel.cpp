@@ -18,6 +18,24 @@ bool karteErlaubt(const Spiel& spiel, Sitz sitz, int pos) {
     return true;
 }
 
+std::vector<int> handkarten(const Spiel& spiel, Sitz sitz) {
+    std::vector<int> karten;
+    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
+        if (spiel.deck[p].status == InHand) karten.push_back(p);
+    return karten;
+}
+
+std::vector<int> erlaubteKarten(const Spiel& spiel, Sitz sitz) {
+    std::vector<int> karten = handkarten(spiel, sitz);
+    std::erase_if(karten, [&](int p) { return !karteErlaubt(spiel, sitz, p); });
+    return karten;
+}
+
+int ersteErlaubteKarte(const Spiel& spiel, Sitz sitz) {
+    const std::vector<int> karten = erlaubteKarten(spiel, sitz);
+    return karten.empty() ? 0 : karten.front();
+}
+
 namespace {
 
 // Texts of the wrong-card box.

@@ -6,17 +6,9 @@
 
 namespace players {
 
+using engine::erlaubteKarten;
 using engine::Sitz;
 using engine::Spiel;
-
-namespace {
-std::vector<int> erlaubteKarten(const Spiel& spiel, Sitz sitz) {
-    std::vector<int> karten;
-    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
-        if (spiel.deck[p].status == engine::InHand && engine::karteErlaubt(spiel, sitz, p)) karten.push_back(p);
-    return karten;
-}
-}  // namespace
 
 int kleinsteErlaubteKarte(const Spiel& spiel, Sitz sitz) {
     int beste = 0;

@@ -28,14 +28,11 @@ int kleinsteNach(const std::vector<int>& karten, F schluessel) {
 
 Lage::Lage(const Spiel& s, const Tischwissen& w, Sitz sitz, const Melder& m, Zufallsquelle& z)
     : spiel(s), wissen(w), ich(sitz), melder(m), zufall(z), trumpf(s.spieltyp) {
-    const Deck& deck = spiel.deck;
-    for (int p = deck.erstePosition(ich); p <= deck.letztePosition(ich); ++p) {
-        if (deck[p].status != InHand) continue;
-        hand.push_back(p);
-        if (karteErlaubt(spiel, ich, p)) erlaubt.push_back(p);
-    }
+    hand = handkarten(spiel, ich);
+    erlaubt = erlaubteKarten(spiel, ich);
     werteBerechnen();
 
+    const Deck& deck = spiel.deck;
     const Stich& stich = spiel.stich;
     anzahl = stich.anzahl < 4 ? stich.anzahl : 0;
     if (anzahl > 0) {

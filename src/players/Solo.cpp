@@ -7,6 +7,7 @@
 
 #include "Regeltabelle.h"
 #include "Texte.h"
+#include "engine/Stichspiel.h"
 #include "engine/Vorbehalte.h"
 
 namespace players {
@@ -22,13 +23,6 @@ bool laufend(const Spiel& spiel) {
     return p == Spielphase::Kartenspiel || p == Spielphase::StichVoll || p == Spielphase::Spielende;
 }
 
-std::vector<int> handVon(const Spiel& spiel, Sitz sitz) {
-    std::vector<int> v;
-    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
-        if (spiel.deck[p].status == InHand) v.push_back(p);
-    return v;
-}
-
 // The deck with the strengths of a kind. The running game keeps its own; for another
 // kind the own Schweine and an own Supersau rank at the top (another seat's are unknown).
 Deck deckFuer(const Spiel& spiel, Sitz sitz, int art) {
@@ -36,7 +30,7 @@ Deck deckFuer(const Spiel& spiel, Sitz sitz, int art) {
     Deck d = spiel.deck;
     d.staerkenBerechnen(art);
     const Regeln& r = spiel.regeln;
-    const std::vector<int> hand = handVon(spiel, sitz);
+    const std::vector<int> hand = handkarten(spiel, sitz);
     auto obenauf = [&](int code) {
         if (std::count_if(hand.begin(), hand.end(), [&](int p) { return d[p].code == code; }) < 2) return false;
         for (int p : hand)
@@ -84,7 +78,7 @@ int abziehrunden(int fremde, const std::array<int, 3>& n, double sicherheit) {
 
 int truempfeIn(const Spiel& spiel, Sitz sitz, int art) {
     const Deck d = deckFuer(spiel, sitz, art);
-    const std::vector<int> hand = handVon(spiel, sitz);
+    const std::vector<int> hand = handkarten(spiel, sitz);
     return static_cast<int>(std::count_if(hand.begin(), hand.end(), [&](int p) { return d[p].farbe == art; }));
 }
 
@@ -93,13 +87,13 @@ bool spieltZuerstAus(const Spiel& spiel, Sitz sitz) { return sitz == spiel.vorha
 Soloschaetzung soloSchaetzen(const Spiel& spiel, Sitz sitz, int art, bool amAufspiel, double sicherheit) {
     const Deck d = deckFuer(spiel, sitz, art);
     const Regeln& r = spiel.regeln;
-    const std::vector<int> eigene = handVon(spiel, sitz);
+    const std::vector<int> eigene = handkarten(spiel, sitz);
     std::vector<int> fremde;
     std::array<int, 3> groessen{};
     int fremdeTruempfe = 0;
     int hoechsterFremder = 0;
     for (int i = 1; i <= 3; ++i) {
-        const std::vector<int> h = handVon(spiel, sitz.plus(i));
+        const std::vector<int> h = handkarten(spiel, sitz.plus(i));
         groessen[static_cast<std::size_t>(i - 1)] = static_cast<int>(h.size());
         for (int p : h) {
             fremde.push_back(p);
@@ -191,7 +185,7 @@ std::string spielerText(Sitz sitz) { return std::string(text::SpielerOhneBlank) 
 
 // Steps 2 to 6: a colour with many trumps, its Zehn and As, high trumps and no blank side card.
 int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen, bool& still) {
-    const std::vector<int> hand = handVon(spiel, sitz);
+    const std::vector<int> hand = handkarten(spiel, sitz);
     const Deck& roh = spiel.deck;
     bool doppelteZehn = false;
     for (int f = Karo; f <= Kreuz; ++f)
@@ -255,7 +249,7 @@ int zaehle(const Deck& d, const std::vector<int>& hand, const std::function<bool
 }
 
 bool figurenSolo(const Spiel& spiel, Sitz sitz, int rang, bool zuerst) {
-    const std::vector<int> hand = handVon(spiel, sitz);
+    const std::vector<int> hand = handkarten(spiel, sitz);
     const Deck& d = spiel.deck;
     const int figuren = zaehle(d, hand, [&](const Kartenposition& k) { return !istJoker(k.code) && rangVonCode(k.code) == rang; });
     const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertAs; });
@@ -264,7 +258,7 @@ bool figurenSolo(const Spiel& spiel, Sitz sitz, int rang, bool zuerst) {
 
 // Step 10: aces and tens, else points for suits headed by As-As-Zehn, As-As, a single As.
 bool fleischlos(const Spiel& spiel, Sitz sitz, bool zuerst) {
-    const std::vector<int> hand = handVon(spiel, sitz);
+    const std::vector<int> hand = handkarten(spiel, sitz);
     const Deck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
     const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertAs; });
     const int zehnen = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertZehn; });
@@ -305,7 +299,7 @@ bool fleischlos(const Spiel& spiel, Sitz sitz, bool zuerst) {
 }
 
 int langeFarbe(const Spiel& spiel, Sitz sitz) {
-    const std::vector<int> hand = handVon(spiel, sitz);
+    const std::vector<int> hand = handkarten(spiel, sitz);
     const Deck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
     int farbe = 0;
     int meiste = 0;
@@ -385,7 +379,7 @@ int pflichtsoloArt(const Spiel& spiel, Sitz sitz, const Soloarten& arten) {
 }
 
 Hochzeitwahl hochzeitArtWaehlen(const Spiel& spiel, Sitz sitz) {
-    const std::vector<int> hand = handVon(spiel, sitz);
+    const std::vector<int> hand = handkarten(spiel, sitz);
     const Deck d = deckFuer(spiel, sitz, Normalspiel);
     const int truempfe = zaehle(d, hand, [](const Kartenposition& k) { return k.farbe == Normalspiel; });
     const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.farbe != Normalspiel && k.wert == WertAs; });

@@ -4,6 +4,8 @@
 #include <array>
 #include <tuple>
 
+#include "engine/Stichspiel.h"
+
 namespace table {
 
 namespace {
@@ -16,9 +18,7 @@ int farbfolge(int farbe) {
 
 std::vector<int> sortierteHand(const engine::Spiel& spiel, engine::Sitz sitz) {
     const engine::Deck& deck = spiel.deck;
-    std::vector<int> hand;
-    for (int p = deck.erstePosition(sitz); p <= deck.letztePosition(sitz); ++p)
-        if (deck[p].status == engine::InHand) hand.push_back(p);
+    std::vector<int> hand = engine::handkarten(spiel, sitz);
 
     // Sort key: trumps first, then the suit, then the strength downwards; the code
     // keeps equal strengths apart (Herz-As and Herz-Zehn differ only by it) and the
@@ -34,10 +34,7 @@ std::vector<int> sortierteHand(const engine::Spiel& spiel, engine::Sitz sitz) {
 }
 
 int kartenInHand(const engine::Spiel& spiel, engine::Sitz sitz) {
-    int n = 0;
-    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
-        if (spiel.deck[p].status == engine::InHand) ++n;
-    return n;
+    return static_cast<int>(engine::handkarten(spiel, sitz).size());
 }
 
 }  // namespace table

@@ -42,13 +42,6 @@ std::vector<int> codesVon(const engine::Spiel& spiel, const std::vector<int>& po
     return codes;
 }
 
-// Any legal card, when a computer player offered an illegal one.
-int ersteErlaubteKarte(const engine::Spiel& spiel, Sitz sitz) {
-    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
-        if (spiel.deck[p].status == engine::InHand && engine::karteErlaubt(spiel, sitz, p)) return p;
-    return 0;
-}
-
 }  // namespace
 
 Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent)
@@ -396,7 +389,7 @@ void Tischsteuerung::computerKarte() {
     begruendungenZeigen();
     if (ablauf_.offeneArt() != Anfrageart::Karte || ablauf_.sitzDerAnfrage() != s) return weiter();
     if (!ablauf_.antworten(Antwort::karte(pos))) {
-        pos = ersteErlaubteKarte(spiel_, s);
+        pos = engine::ersteErlaubteKarte(spiel_, s);
         ablauf_.antworten(Antwort::karte(pos));
     }
     karteGelegt(pos, s);

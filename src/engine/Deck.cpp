@@ -21,6 +21,12 @@ void Deck::attributeBerechnen() {
     }
 }
 
+int Deck::anzahl(Sitz s, int code) const {
+    int n = 0;
+    for (int p = erstePosition(s); p <= letztePosition(s); ++p) n += (*this)[p].code == code;
+    return n;
+}
+
 void Deck::staerkenBerechnen(int spieltyp) {
     for (auto& k : positionen_) {
         if (k.code == 0) continue;

@@ -45,6 +45,8 @@ public:
     int erstePosition(Sitz s) const { return (s.nr() - 1) * handgroesse() + 1; }
     int letztePosition(Sitz s) const { return s.nr() * handgroesse(); }
     Sitz besitzer(int pos) const { return Sitz((pos - 1) / handgroesse() + 1); }
+    // Cards of a code dealt to the seat, played ones included.
+    int anzahl(Sitz s, int code) const;
 
     // Sets every position's suit, value flag and Augen from its code; the effective
     // suit starts as the suit.

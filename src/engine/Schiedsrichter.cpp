@@ -9,13 +9,6 @@ namespace {
 constexpr int KaroAs = kartencode(Karo, As);
 constexpr int KreuzDame = kartencode(Kreuz, Dame);
 
-int kreuzDamen(const Spiel& spiel, Sitz s) {
-    int n = 0;
-    for (int p = spiel.deck.erstePosition(s); p <= spiel.deck.letztePosition(s); ++p)
-        n += spiel.deck[p].code == KreuzDame;
-    return n;
-}
-
 // Strength and suit a played card must have: its ranking in the game type,
 // raised to the top for the Schweine and a promoted Supersau.
 Rangierung erwartet(const Spiel& spiel, int pos) {
@@ -61,7 +54,7 @@ void Schiedsrichter::parteienPruefen(const Spiel& spiel, bool amEnde) {
         if (spiel.solist) soll[*spiel.solist] = ParteiSolo;
     } else if (spiel.hochzeiter) {
         const Sitz h = *spiel.hochzeiter;
-        if (kreuzDamen(spiel, h) != 2) melde(spiel, "Hochzeit ohne beide Kreuz-Damen");
+        if (spiel.deck.anzahl(h, KreuzDame) != 2) melde(spiel, "Hochzeit ohne beide Kreuz-Damen");
         soll[h] = ParteiRe;
         if (amEnde) {
             // The partner: first winner other than the Hochzeiter of a trick of the kind within three.
@@ -81,13 +74,14 @@ void Schiedsrichter::parteienPruefen(const Spiel& spiel, bool amEnde) {
             if (spiel.hochzeitPartner != partner) melde(spiel, "Hochzeitspartner falsch");
         }
     } else if (spiel.stillerSolist) {
-        if (kreuzDamen(spiel, *spiel.stillerSolist) != 2) melde(spiel, "stilles Solo ohne beide Kreuz-Damen");
+        if (spiel.deck.anzahl(*spiel.stillerSolist, KreuzDame) != 2)
+            melde(spiel, "stilles Solo ohne beide Kreuz-Damen");
         soll[*spiel.stillerSolist] = ParteiSolo;
     } else {
         int re = 0;
         for (const Sitz s : alleSitze) {
-            if (kreuzDamen(spiel, s) >= 2) melde(spiel, "beide Kreuz-Damen im Normalspiel");
-            if (kreuzDamen(spiel, s) > 0) {
+            if (spiel.deck.anzahl(s, KreuzDame) >= 2) melde(spiel, "beide Kreuz-Damen im Normalspiel");
+            if (spiel.deck.anzahl(s, KreuzDame) > 0) {
                 soll[s] = ParteiRe;
                 ++re;
             }

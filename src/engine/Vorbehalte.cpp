@@ -10,13 +10,6 @@ namespace {
 constexpr int KreuzDame = kartencode(Kreuz, Dame);
 constexpr int KaroAs = kartencode(Karo, As);
 
-int zaehleCode(const Spiel& spiel, Sitz sitz, int code) {
-    int n = 0;
-    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
-        if (spiel.deck[p].code == code) ++n;
-    return n;
-}
-
 bool istMensch(const Spiel& spiel, Sitz sitz) { return spiel.steuerung[sitz] == Steuerung::Mensch; }
 
 // "Sie ..." for the person at this machine, the name + "..." for everyone else.
@@ -62,7 +55,7 @@ bool soloErlaubt(const Regeln& regeln, int spieltyp) {
     return spieltyp != DamenBubenSolo || regeln.dabuSolo;
 }
 
-bool hatBeideKreuzDamen(const Spiel& spiel, Sitz sitz) { return zaehleCode(spiel, sitz, KreuzDame) == 2; }
+bool hatBeideKreuzDamen(const Spiel& spiel, Sitz sitz) { return spiel.deck.anzahl(sitz, KreuzDame) == 2; }
 
 std::string_view hochzeitArtText(int art) {
     switch (art) {
@@ -93,7 +86,7 @@ bool mussPflichtsolo(const Spiel& spiel, Sitz sitz) {
 
 std::optional<Sitz> schweineHalterSuchen(const Spiel& spiel) {
     for (const Sitz s : alleSitze)
-        if (zaehleCode(spiel, s, KaroAs) == 2) return s;
+        if (spiel.deck.anzahl(s, KaroAs) == 2) return s;
     return std::nullopt;
 }
 
@@ -137,7 +130,7 @@ std::vector<Meldung> spielFestlegen(Spiel& spiel, const Spielwahl& wahl, bool fr
     switch (wahl.art) {
         case Spielwahl::Normal:
             for (const Sitz s : alleSitze)
-                if (zaehleCode(spiel, s, KreuzDame) > 0) spiel.partei[s] = ParteiRe;
+                if (spiel.deck.anzahl(s, KreuzDame) > 0) spiel.partei[s] = ParteiRe;
             break;
         case Spielwahl::Solo:
             spiel.solist = w;
@@ -182,7 +175,7 @@ std::vector<Meldung> spielFestlegen(Spiel& spiel, const Spielwahl& wahl, bool fr
     if (spiel.regeln.supersau && spiel.regeln.zweiSchweine && spiel.solo && istFarbspiel(spiel.spieltyp) &&
         !spiel.schweineHalter) {
         for (const Sitz s : alleSitze)
-            if (zaehleCode(spiel, s, kartencode(spiel.spieltyp, As)) == 2) {
+            if (spiel.deck.anzahl(s, kartencode(spiel.spieltyp, As)) == 2) {
                 spiel.supersauHalter = s;
                 break;
             }

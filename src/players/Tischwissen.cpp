@@ -18,13 +18,6 @@ constexpr int HoheTrumpfStaerke = 16384;
 
 std::string nr(Sitz s) { return std::to_string(s.nr()); }
 
-int kreuzDamenIn(const Spiel& spiel, Sitz s) {
-    int n = 0;
-    for (int p = spiel.deck.erstePosition(s); p <= spiel.deck.letztePosition(s); ++p)
-        if (spiel.deck[p].code == KreuzDameCode) ++n;
-    return n;
-}
-
 bool istDolle(const Spiel& spiel, int pos) {
     const auto& k = spiel.deck[pos];
     return k.code == DolleCode && k.farbe == spiel.spieltyp && k.staerke == StaerkeDolle;
@@ -77,7 +70,7 @@ void Tischwissen::parteienFestlegen(const Spiel& spiel) {
     const bool angesagt = spiel.solo || spiel.hochzeiter.has_value();
     ProSitz<int> damen;
     for (const Sitz s : alleSitze) {
-        damen[s] = kreuzDamenIn(spiel, s);
+        damen[s] = spiel.deck.anzahl(s, KreuzDameCode);
         kreuzDamenSumme[s] += damen[s];
         partei[s] = damen[s] == 0 ? ParteiKontra : damen[s] == 1 ? ParteiRe : ParteiSolo;
         if (damen[s] == 2) {

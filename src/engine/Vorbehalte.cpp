@@ -17,6 +17,17 @@ std::string wer(const Spiel& spiel, Sitz sitz, std::string_view sie, std::string
     return istMensch(spiel, sitz) ? std::string(sie) : spiel.namen[sitz] + std::string(andere);
 }
 
+// Raises the holder's Karo-Asse above the Dollen; returns their positions.
+std::vector<int> schweineErhoehen(Spiel& spiel, Sitz halter) {
+    std::vector<int> karten;
+    for (int p = spiel.deck.erstePosition(halter); p <= spiel.deck.letztePosition(halter); ++p) {
+        if (spiel.deck[p].code != KaroAs) continue;
+        spiel.deck[p].staerke = StaerkeJoker;
+        karten.push_back(p);
+    }
+    return karten;
+}
+
 std::string soloName(int spieltyp, bool franzoesisch) {
     if (spieltyp == Normalspiel) return std::string(farbwort(Karo, franzoesisch)) + "-Solo";
     return spieltypName(spieltyp, franzoesisch);
@@ -101,12 +112,7 @@ std::optional<Meldung> schweineMarkieren(Spiel& spiel) {
     spiel.schweineHalter = schweineHalterSuchen(spiel);
     if (!spiel.schweineHalter) return std::nullopt;
     const Sitz h = *spiel.schweineHalter;
-    std::vector<int> karten;
-    for (int p = spiel.deck.erstePosition(h); p <= spiel.deck.letztePosition(h); ++p) {
-        if (spiel.deck[p].code != KaroAs) continue;
-        spiel.deck[p].staerke = StaerkeJoker;
-        karten.push_back(p);
-    }
+    const std::vector<int> karten = schweineErhoehen(spiel, h);
     if (!istMensch(spiel, h) && !spiel.regeln.schweineAnsagen) return std::nullopt;
     return Meldung{Meldungsart::Schweine, std::string(vorbehalttext::TitelSchweine),
                    wer(spiel, h, "Sie haben Schweine!", " hat Schweine!"), h, karten};
@@ -164,13 +170,10 @@ std::vector<Meldung> spielFestlegen(Spiel& spiel, const Spielwahl& wahl, bool fr
     }
 
     spiel.deck.staerkenBerechnen(spiel.spieltyp);
-    if (spiel.schweineHalter && schweineGelten(spiel.regeln, spiel.spieltyp, spiel.solo)) {
-        const Sitz h = *spiel.schweineHalter;
-        for (int p = spiel.deck.erstePosition(h); p <= spiel.deck.letztePosition(h); ++p)
-            if (spiel.deck[p].code == KaroAs) spiel.deck[p].staerke = StaerkeJoker;
-    } else {
+    if (spiel.schweineHalter && schweineGelten(spiel.regeln, spiel.spieltyp, spiel.solo))
+        schweineErhoehen(spiel, *spiel.schweineHalter);
+    else
         spiel.schweineHalter.reset();
-    }
     spiel.supersauHalter.reset();
     if (spiel.regeln.supersau && spiel.regeln.zweiSchweine && spiel.solo && istFarbspiel(spiel.spieltyp) &&
         !spiel.schweineHalter) {

@@ -17,7 +17,6 @@ using namespace hilfe;
 namespace {
 
 std::size_t fi(int farbe) { return static_cast<std::size_t>(farbe); }
-std::string spielerNr(const Lage& l) { return std::string(text::SpielerOhneBlank) + std::to_string(l.ich.nr()); }
 
 bool istFarbe(const Lage& l, int f) { return f >= 1 && f <= 4 && f != l.trumpf; }
 
@@ -48,12 +47,12 @@ void abziehenMelden(const Lage& l, bool zweiteForm) {
     if (!l.melder.zeigt()) return;
     if (kannTrumpfAbziehen(l)) {
         if (l.spiel.solo)
-            l.melder.hinweis(spielerNr(l) + std::string(text::KannTrumpffarbe) + std::to_string(l.trumpf) +
+            l.melder.hinweis(text::spieler(l.ich) + std::string(text::KannTrumpffarbe) + std::to_string(l.trumpf) +
                              std::string(text::TatsaechlichAbziehen));
         else
-            l.melder.hinweis(spielerNr(l) + std::string(text::KannAbziehen));
+            l.melder.hinweis(text::spieler(l.ich) + std::string(text::KannAbziehen));
     } else if (zweiteForm) {
-        l.melder.hinweis(spielerNr(l) + std::string(text::KannAbziehenKeineDolle));
+        l.melder.hinweis(text::spieler(l.ich) + std::string(text::KannAbziehenKeineDolle));
     }
 }
 
@@ -159,7 +158,7 @@ int asAusspielen(const Lage& l) {
         }
     }
     if (l.melder.zeigt()) {
-        l.melder.hinweis(spielerNr(l) + std::string(text));
+        l.melder.hinweis(text::spieler(l.ich) + std::string(text));
         if (zweiteRunde && l.angespielt(l.karte(wahl).farbe) > 0) {
             l.melder.hinweis(text::AsVersaeumt);
             l.melder.hinweis(text::Versager);

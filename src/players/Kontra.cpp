@@ -99,8 +99,6 @@ int ansagewert(const Lage& l) {
     return w;
 }
 
-std::string spielerText(Sitz s) { return std::string(text::SpielerOhneBlank) + std::to_string(s.nr()); }
-
 }  // namespace
 
 Ansagepruefung kontraPruefen(const Lage& l) {
@@ -134,7 +132,7 @@ Ansagepruefung kontraPruefen(const Lage& l) {
     if (limitRegel && s.limitSitz && eigenesLimit) {
         w = augen.andere;
         if (augen.andere + 11 >= limit) {
-            l.melder.hinweis(spielerText(l.ich) + std::string(text::EigenesLimitInGefahr));
+            l.melder.hinweis(text::spieler(l.ich) + std::string(text::EigenesLimitInGefahr));
             return e;
         }
     }

@@ -14,8 +14,6 @@ namespace players {
 using namespace engine;
 
 namespace {
-std::string spielerText(Sitz s) { return std::string(text::SpielerOhneBlank) + std::to_string(s.nr()); }
-
 std::string_view hochzeitCode(int art) {
     switch (art) {
         case ErsterFehlstich: return "Fehlstich";
@@ -53,19 +51,19 @@ Vorbehalt Regelwerk::vorbehaltWaehlen(const Spiel& spiel, Sitz sitz) {
 
     const Solowahl wahl = soloPruefen(spiel, sitz, arten, tabellen, melder);
     if (wahl.art != 0 && tabellen.stillesSoloSpieler == sitz && !pflicht) {
-        melder.regel(verfahren::Vorbehalt, "Still", spielerText(sitz) + std::string(text::StillesSoloBehalten));
+        melder.regel(verfahren::Vorbehalt, "Still", text::spieler(sitz) + std::string(text::StillesSoloBehalten));
         return {};
     }
     if (wahl.art != 0 && spiel.regeln.solis) return {Vorbehalt::Solo, wahl.art, KeineHochzeit};
     if (pflicht) {
         const int art = pflichtsoloArt(spiel, sitz, arten);
         melder.regel(verfahren::Vorbehalt, "Pflicht",
-                     spielerText(sitz) + std::string(text::PflichtsoloWahl) + std::to_string(art) + "!");
+                     text::spieler(sitz) + std::string(text::PflichtsoloWahl) + std::to_string(art) + "!");
         return {Vorbehalt::Solo, art, KeineHochzeit};
     }
     if (beideKreuzDamen) {
         const Hochzeitwahl h = hochzeitArtWaehlen(spiel, sitz);
-        melder.regel(verfahren::Vorbehalt, hochzeitCode(h.art), spielerText(sitz) + std::string(h.text));
+        melder.regel(verfahren::Vorbehalt, hochzeitCode(h.art), text::spieler(sitz) + std::string(h.text));
         return {Vorbehalt::Hochzeit, Normalspiel, h.art};
     }
     return {};

@@ -181,8 +181,6 @@ int sicheresSolo(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabe
 
 namespace {
 
-std::string spielerText(Sitz sitz) { return std::string(text::SpielerOhneBlank) + std::to_string(sitz.nr()); }
-
 // Steps 2 to 6: a colour with many trumps, its Zehn and As, high trumps and no blank side card.
 int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen, bool& still) {
     const std::vector<int> hand = handkarten(spiel, sitz);
@@ -338,7 +336,7 @@ Solowahl soloPruefen(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solo
         if (beideKreuzDamen && w.art == Normalspiel) tabellen.stillesSoloSpieler = sitz;
         if (w.art == SoloOhneTrumpf) tabellen.langeFarbe[sitz] = langeFarbe(spiel, sitz);
         melder.regel(verfahren::SoloPruefen, sologrundCode(w.grund),
-                     spielerText(sitz) + std::string(text::SicheresSoloMitte) + std::to_string(w.art) +
+                     text::spieler(sitz) + std::string(text::SicheresSoloMitte) + std::to_string(w.art) +
                          std::string(text::SicheresSoloEnde));
         return w;
     }

@@ -1,7 +1,10 @@
 #pragma once
 // Every text the computer players show, word for word (misspellings and double
 // blanks included). Rule sentences carry their "Mld." prefix and code as shown.
+#include <string>
 #include <string_view>
+
+#include "engine/Sitz.h"
 
 namespace players::text {
 
@@ -27,6 +30,8 @@ inline constexpr T ParteizeigerFehler = "Fehler nichts bekannt beim Parteizeiger
 
 // --- Lead.
 inline constexpr T SpielerOhneBlank = "Spieler";
+// "Spieler3": how the reasoning names a seat at the start of a sentence.
+inline std::string spieler(engine::Sitz s) { return std::string(SpielerOhneBlank) + std::to_string(s.nr()); }
 inline constexpr T KannAbziehen = " kann Trumpf abziehen!";
 inline constexpr T KannAbziehenKeineDolle = " kann Trumpf abziehen, da meine Gegner über keine Dolle verfügen!";
 inline constexpr T KannTrumpffarbe = " kann Trumpffarbe ";

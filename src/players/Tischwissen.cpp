@@ -25,6 +25,11 @@ bool istDolle(const Spiel& spiel, int pos) {
 
 bool hochzeitOffen(const Spiel& spiel) { return spiel.hochzeiter && !spiel.hochzeitGeklaert; }
 
+// Cards played so far (a full trick is already among the tricks played).
+int gespielteKarten(const Spiel& spiel) {
+    return 4 * spiel.sticheGespielt + (spiel.stich.anzahl < 4 ? spiel.stich.anzahl : 0);
+}
+
 }  // namespace
 
 int truempfeInHand(const Spiel& spiel, Sitz sitz) {
@@ -153,10 +158,10 @@ void Tischwissen::bluffRegel(const Spiel& spiel, const Stich& stich, int anzahl)
     }
 }
 
-Sitz Tischwissen::stichZwischenstand(const Spiel& spiel, const Stich& stich, int anzahl) {
+void Tischwissen::karteGesehen(const Spiel& spiel, const Stich& stich, int anzahl) {
+    if (spiel.deck[stich.karte(anzahl)].code == KreuzDameCode && !spiel.solo) kreuzDameGesehen(stich.sitzAn(anzahl));
     karteVerarbeiten(spiel, stich, anzahl);
     bluffRegel(spiel, stich, anzahl);
-    return stich.sitzAn(fuehrenderPlatz(spiel.deck, stich, anzahl, spiel.spieltyp, spiel.regeln.herzZehn));
 }
 
 void Tischwissen::stichAuswerten(const Spiel& spiel, const Stich& stich) {
@@ -233,8 +238,7 @@ void Tischwissen::stichAuswerten(const Spiel& spiel, const Stich& stich) {
     parteizeigerSetzen(spiel);
 }
 
-void Tischwissen::kreuzDameGesehen(const Spiel& spiel, Sitz sitz) {
-    (void)spiel;
+void Tischwissen::kreuzDameGesehen(Sitz sitz) {
     ++kreuzDamenGespielt_[sitz];
     if (kreuzDamenGespielt_[sitz] >= 2) {
         allenBekannt(sitz, partei[sitz]);
@@ -338,29 +342,21 @@ void Tischwissen::nachvollziehen(const Spiel& spiel) {
             stich.anzahl = i;
             stich.platz[stich.sitzAn(i)] = i;
             if (i == 1) stich.farbeZuBedienen = spiel.deck[stich.karte(1)].farbe;
-            if (spiel.deck[stich.karte(i)].code == KreuzDameCode && !spiel.solo)
-                kreuzDameGesehen(spiel, stich.sitzAn(i));
-            stichZwischenstand(spiel, stich, i);
+            karteGesehen(spiel, stich, i);
         }
         stichAuswerten(spiel, stich);
     }
     ansagenBis(spiel.stiche.size());
-    if (spiel.stich.anzahl < 4) {
-        for (int i = 1; i <= spiel.stich.anzahl; ++i) {
-            if (spiel.deck[spiel.stich.karte(i)].code == KreuzDameCode && !spiel.solo)
-                kreuzDameGesehen(spiel, spiel.stich.sitzAn(i));
-            stichZwischenstand(spiel, spiel.stich, i);
-        }
-    }
-    beobachteteKarten_ = 4 * spiel.sticheGespielt + (spiel.stich.anzahl < 4 ? spiel.stich.anzahl : 0);
+    if (spiel.stich.anzahl < 4)
+        for (int i = 1; i <= spiel.stich.anzahl; ++i) karteGesehen(spiel, spiel.stich, i);
+    beobachteteKarten_ = gespielteKarten(spiel);
     begonnen_ = true;
     zufallszahl = zahl;
     stumm_ = false;
 }
 
 bool Tischwissen::aktuell(const Spiel& spiel) const {
-    const int erwartet = 4 * spiel.sticheGespielt + (spiel.stich.anzahl < 4 ? spiel.stich.anzahl : 0);
-    return begonnen_ && beobachteteKarten_ == erwartet;
+    return begonnen_ && beobachteteKarten_ == gespielteKarten(spiel);
 }
 
 void Tischwissen::kartenGegeben(const Spiel&) {
@@ -374,9 +370,8 @@ void Tischwissen::spielBegonnen(const Spiel& spiel) {
     begonnen_ = true;
 }
 
-void Tischwissen::karteGespielt(const Spiel& spiel, Sitz sitz, int pos) {
-    if (spiel.deck[pos].code == KreuzDameCode && !spiel.solo) kreuzDameGesehen(spiel, sitz);
-    stichZwischenstand(spiel, spiel.stich, spiel.stich.anzahl);
+void Tischwissen::karteGespielt(const Spiel& spiel, Sitz, int) {
+    karteGesehen(spiel, spiel.stich, spiel.stich.anzahl);
     ++beobachteteKarten_;
 }
 

@@ -61,9 +61,6 @@ public:
     // True parties from the Kreuz-Damen (declared games take the engine's parties),
     // each seat's own knowledge and the publicly known parties.
     void parteienFestlegen(const Spiel& spiel);
-    // After the card at place `anzahl` of the trick: per-card rules; returns the seat
-    // that now wins the trick.
-    Sitz stichZwischenstand(const Spiel& spiel, const engine::Stich& stich, int anzahl);
     // After the fourth card: per-trick rules, then the party indicator.
     void stichAuswerten(const Spiel& spiel, const engine::Stich& stich);
     void parteizeigerSetzen(const Spiel& spiel);
@@ -83,9 +80,11 @@ public:
     void ansageGemacht(const Spiel& spiel, const engine::AnsageEintrag& ansage) override;
 
 private:
+    // The card at place `anzahl` of the trick: a Kreuz-Dame shown, voids, the bluff.
+    void karteGesehen(const Spiel& spiel, const engine::Stich& stich, int anzahl);
     void karteVerarbeiten(const Spiel& spiel, const engine::Stich& stich, int anzahl);
     void bluffRegel(const Spiel& spiel, const engine::Stich& stich, int anzahl);
-    void kreuzDameGesehen(const Spiel& spiel, Sitz sitz);
+    void kreuzDameGesehen(Sitz sitz);
     void allenBekannt(Sitz sitz, int wert);
     void folgern(const Spiel& spiel);
     void hinweis(const std::string& text);

@@ -106,10 +106,8 @@ bool gegnerStichtFarbe(const Lage& l, int f) {
 int fleischlos(const Lage& l) {
     const int f = l.werte.langeFarbe;
     if (f == 0 || l.anzahlInHand(f) == 0) return 0;
-    const int beste = l.werte.eigeneBeste[fi(f)];
-    const bool steht = l.staerke(beste) >= l.werte.hoechsteFremde[fi(f)];
-    if (l.angespielt(f) == 0) return beste;  // the top card either way
-    return steht ? beste : 0;
+    if (l.angespielt(f) == 0) return l.werte.eigeneBeste[fi(f)];  // the top card either way
+    return l.stehende(f);
 }
 
 int blankeDolle(const Lage& l) {
@@ -180,11 +178,9 @@ int kleinsteSingle(const Lage& l) {
 
 int keinerKannStechen(const Lage& l) {
     if (l.werte.fremdeTruempfe != 0 && l.trumpf != SoloOhneTrumpf) return 0;
-    for (int f = 1; f <= 4; ++f) {
-        if (!istFarbe(l, f) || l.anzahlInHand(f) == 0) continue;
-        const int beste = l.werte.eigeneBeste[fi(f)];
-        if (l.staerke(beste) >= l.werte.hoechsteFremde[fi(f)]) return beste;
-    }
+    for (int f = 1; f <= 4; ++f)
+        if (istFarbe(l, f))
+            if (const int k = l.stehende(f)) return k;
     return 0;
 }
 
@@ -244,10 +240,8 @@ int absenteFarbe(const Lage& l) {
     if (l.werte.eigeneTruempfe == 0) {
         int wahl = 0;
         for (int f = 1; f <= 4; ++f) {
-            if (!istFarbe(l, f) || l.anzahlInHand(f) == 0) continue;
-            const int beste = l.werte.eigeneBeste[fi(f)];
-            if (l.staerke(beste) >= l.werte.hoechsteFremde[fi(f)] && (wahl == 0 || l.staerke(beste) > l.staerke(wahl)))
-                wahl = beste;
+            const int k = istFarbe(l, f) ? l.stehende(f) : 0;
+            if (k != 0 && (wahl == 0 || l.staerke(k) > l.staerke(wahl))) wahl = k;
         }
         if (wahl != 0) {
             l.melder.hinweis(text::IrgendeineFarbe);
@@ -314,8 +308,7 @@ int langeFarbe(const Lage& l) {
         if (istFarbe(l, f) && l.anzahlInHand(f) >= 3 && (farbe == 0 || l.anzahlInHand(f) > l.anzahlInHand(farbe)))
             farbe = f;
     if (farbe == 0) return 0;
-    const int beste = l.werte.eigeneBeste[fi(farbe)];
-    if (l.staerke(beste) >= l.werte.hoechsteFremde[fi(farbe)]) return beste;
+    if (const int k = l.stehende(farbe)) return k;
     return l.kleinsteDerFarbe(farbe);
 }
 
@@ -327,11 +320,9 @@ std::optional<Sitz> andererSolist(const Lage& l) {
 
 int hochGegenSolisten(const Lage& l) {
     if (!andererSolist(l)) return 0;
-    for (int f = 4; f >= 1; --f) {
-        if (!istFarbe(l, f) || l.anzahlInHand(f) == 0) continue;
-        const int beste = l.werte.eigeneBeste[fi(f)];
-        if (l.staerke(beste) >= l.werte.hoechsteFremde[fi(f)]) return beste;
-    }
+    for (int f = 4; f >= 1; --f)
+        if (istFarbe(l, f))
+            if (const int k = l.stehende(f)) return k;
     return 0;
 }
 

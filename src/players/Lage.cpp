@@ -157,6 +157,11 @@ bool Lage::hoehereDraussen(int farbe, int s) const {
     return werte.hoechsteFremde[fi(farbe)] > s;
 }
 
+int Lage::stehende(int farbe) const {
+    const int beste = werte.eigeneBeste[fi(farbe)];
+    return beste != 0 && staerke(beste) >= werte.hoechsteFremde[fi(farbe)] ? beste : 0;
+}
+
 bool Lage::hoechsteLiegt() const {
     int best = 0;
     for (int i = 1; i <= anzahl; ++i) {

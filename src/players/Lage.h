@@ -88,6 +88,8 @@ public:
     bool kannSchlagen() const;
     // Is there still a card out in other hands that beats `staerke` in the suit?
     bool hoehereDraussen(int farbe, int staerke) const;
+    // The own best card of a plain suit when no card out in other hands beats it, else 0.
+    int stehende(int farbe) const;
     // The highest card of the suit to follow is already in the trick.
     bool hoechsteLiegt() const;
     // Could seat x, still to play, take the trick from its present winner?

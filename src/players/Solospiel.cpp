@@ -26,10 +26,8 @@ int stehendeKarte(const Lage& l) {
     if (l.werte.fremdeTruempfe != 0) return 0;
     int beste = 0;
     for (int f = Karo; f <= Kreuz; ++f) {
-        if (f == l.trumpf || l.anzahlInHand(f) == 0) continue;
-        const int k = l.werte.eigeneBeste[static_cast<std::size_t>(f)];
-        if (l.staerke(k) < l.werte.hoechsteFremde[static_cast<std::size_t>(f)]) continue;
-        if (beste == 0 || l.augen(k) > l.augen(beste)) beste = k;
+        const int k = f != l.trumpf ? l.stehende(f) : 0;
+        if (k != 0 && (beste == 0 || l.augen(k) > l.augen(beste))) beste = k;
     }
     return beste;
 }

@@ -59,11 +59,9 @@ void abziehenMelden(const Lage& l, bool zweiteForm) {
 // Some other seat, not known as partner, may still hold trump.
 bool gegnerKannTrumpfHaben(const Lage& l) {
     for (const Sitz x : alleSitze)
-        if (x != l.ich && !l.freund(x) && !l.ohneTrumpf(x)) return true;
+        if (l.feind(x) && !l.ohneTrumpf(x)) return true;
     return false;
 }
-
-bool believedGegner(const Lage& l, Sitz x) { return x != l.ich && l.glaube(x) != ParteiUnbekannt && !l.freund(x); }
 
 int eigenerTrumpfNachRang(const Lage& l, int rang) {
     std::vector<int> t;
@@ -97,7 +95,7 @@ int kleinsteFarbkarte(const Lage& l) {
 // A suit in which a seat that may trump is known void: leading it invites a ruff.
 bool gegnerStichtFarbe(const Lage& l, int f) {
     for (const Sitz x : alleSitze)
-        if (x != l.ich && !l.freund(x) && l.frei(x, f) && !l.ohneTrumpf(x)) return true;
+        if (l.feind(x) && l.frei(x, f) && !l.ohneTrumpf(x)) return true;
     return false;
 }
 
@@ -202,7 +200,7 @@ int trumpfVonOben(const Lage& l) {
     if (oben == 0) return 0;
     bool markierterGegner = false;
     for (const Sitz x : alleSitze)
-        if (l.wissen.trumpfPartnerMarke[x][l.ich] && believedGegner(l, x)) markierterGegner = true;
+        if (l.wissen.trumpfPartnerMarke[x][l.ich] && l.bekannterFeind(x)) markierterGegner = true;
     if (markierterGegner && l.werte.fremdeTruempfe > 0) {
         if (!l.istZaehler(oben) || !kannTrumpfAbziehen2(l)) return oben;
         const int darunter = eigenerTrumpfNachRang(l, 1);
@@ -231,7 +229,7 @@ int absenteFarbe(const Lage& l) {
         if (!istFarbe(l, f) || l.anzahlInHand(f) == 0) continue;
         bool keinGegnerHat = true;
         for (const Sitz x : alleSitze)
-            if (x != l.ich && !l.freund(x) && !(l.frei(x, f) && l.ohneTrumpf(x))) keinGegnerHat = false;
+            if (l.feind(x) && !(l.frei(x, f) && l.ohneTrumpf(x))) keinGegnerHat = false;
         if (keinGegnerHat) {
             l.melder.hinweis(text::FarbeGegnerNicht);
             return l.werte.eigeneBeste[fi(f)];

@@ -16,9 +16,6 @@ namespace {
 
 constexpr int KreuzDame = kartencode(Kreuz, Dame);
 
-bool partner(const Lage& l, Sitz x) { return x != l.ich && l.freund(x); }
-bool gegner(const Lage& l, Sitz x) { return x != l.ich && l.glaube(x) != ParteiUnbekannt && !l.freund(x); }
-
 // Augen of the own party (the own seat and believed partners) and of everybody else.
 struct Augenstand {
     int eigene = 0;
@@ -26,10 +23,9 @@ struct Augenstand {
 };
 Augenstand augenstand(const Lage& l) {
     Augenstand a;
-    const bool kennePartei = l.eigenePartei() != ParteiUnbekannt;
     for (const Sitz x : alleSitze) {
         const int augen = l.spiel.augen[x];
-        if (x == l.ich || (kennePartei && partner(l, x)))
+        if (l.freund(x))
             a.eigene += augen;
         else
             a.andere += augen;
@@ -55,7 +51,7 @@ int ansagewert(const Lage& l) {
     if (s.hochzeiter && seite(l.eigenePartei()) == ParteiKontra) w -= 35;
     if (s.schweineHalter && !s.solo && l.schweinOeffentlich()) {
         const Sitz halter = *s.schweineHalter;
-        w += halter == l.ich || partner(l, halter) ? 10 : -49;
+        w += l.freund(halter) ? 10 : -49;
     }
     if (s.solo && s.solist == l.ich) {
         w -= 55;
@@ -112,14 +108,14 @@ Ansagepruefung kontraPruefen(const Lage& l) {
     const bool limitRegel = s.regeln.limit > 0;
     const int limit = limitRegel && s.limitSitz ? limitAugen(s.limitCode) : 120;
     const bool kennePartei = l.eigenePartei() != ParteiUnbekannt;
-    const bool eigenesLimit = s.limitSitz && (*s.limitSitz == l.ich || partner(l, *s.limitSitz));
+    const bool eigenesLimit = s.limitSitz && l.freund(*s.limitSitz);
     const Augenstand augen = augenstand(l);
 
     // 2. The opponents' limit is broken already.
     if (kennePartei && limitRegel && s.limitSitz && !eigenesLimit) {
         w = augen.eigene;
         bool gegnerDa = false;
-        for (const Sitz x : alleSitze) gegnerDa = gegnerDa || gegner(l, x);
+        for (const Sitz x : alleSitze) gegnerDa = gegnerDa || l.bekannterFeind(x);
         if (gegnerDa && w >= limit && w > 0) {
             l.melder.regel(verfahren::KontraPruefen, "Limit",
                            std::string(text::GegnerLimitErreicht) + std::to_string(limit) +
@@ -174,7 +170,7 @@ std::optional<int> limitPruefen(const Lage& l) {
     int gegnerAugen = 0;
     int gegnerStiche = 0;
     for (const Sitz x : alleSitze) {
-        if (x == l.ich || partner(l, x)) continue;
+        if (l.freund(x)) continue;
         gegnerAugen += s.augen[x];
         gegnerStiche += s.stichzahl[x];
     }

@@ -106,6 +106,8 @@ public:
     int eigenePartei() const { return wissen.glaube(ich, ich); }
     bool freund(Sitz x) const;
     bool feind(Sitz x) const { return x != ich && !freund(x); }
+    // Another seat believed in a party that is not the own one.
+    bool bekannterFeind(Sitz x) const { return feind(x) && glaube(x) != engine::ParteiUnbekannt; }
     bool frei(Sitz x, int farbe) const;          // known (or certainly) void in the suit
     bool ohneTrumpf(Sitz x) const;               // known (or certainly) without trump
     std::optional<Sitz> solist() const;          // declared or believed soloist

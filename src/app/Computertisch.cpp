@@ -12,12 +12,6 @@ Computertisch::Computertisch(engine::Spielablauf& ablauf, engine::Zufallsquelle&
     for (std::size_t i = 0; i < 4; ++i) spieler_[i] = players::spielerErzeugen(arten[i], umgebung);
 }
 
-bool Computertisch::vollstaendig() const {
-    for (const auto& s : spieler_)
-        if (!s) return false;
-    return true;
-}
-
 engine::ProSitz<engine::Entscheider*> Computertisch::entscheider() const {
     engine::ProSitz<engine::Entscheider*> e;
     for (const engine::Sitz s : engine::alleSitze) e[s] = spieler_[static_cast<std::size_t>(s.nr() - 1)].get();

@@ -13,12 +13,10 @@ namespace app {
 
 class Computertisch {
 public:
-    // `arten` per seat 1..4 ("regelwerk", "zufall", "kleinste"); an unknown kind
-    // leaves the seat empty (see vollstaendig()).
+    // `arten` per seat 1..4, names the caller has checked against players::spielerarten().
     Computertisch(engine::Spielablauf& ablauf, engine::Zufallsquelle& zufall, const std::array<std::string, 4>& arten,
                   players::Begruendungssenke* senke = nullptr);
 
-    bool vollstaendig() const;
     engine::ProSitz<engine::Entscheider*> entscheider() const;
 
 private:

@@ -3,10 +3,12 @@
 #include <QFileDialog>
 #include <QStringList>
 
+#include "Qtext.h"
+
 namespace table {
 
 QString qtFilter(std::string_view filter) {
-    const QStringList teile = QString::fromUtf8(filter.data(), static_cast<qsizetype>(filter.size())).split(QLatin1Char('|'));
+    const QStringList teile = t(filter).split(QLatin1Char('|'));
     QStringList texte;
     for (qsizetype i = 0; i < teile.size(); i += 2) texte << teile[i];
     return texte.join(QStringLiteral(";;"));
@@ -18,7 +20,7 @@ QString waehlen(QWidget* eltern, const Dateifrage& frage, QFileDialog::AcceptMod
     QFileDialog dialog(eltern, frage.titel, frage.ordner, qtFilter(frage.filter));
     dialog.setAcceptMode(modus);
     dialog.setFileMode(modus == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setDefaultSuffix(QString::fromUtf8(frage.endung.data(), static_cast<qsizetype>(frage.endung.size())));
+    dialog.setDefaultSuffix(t(frage.endung));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
     return dialog.selectedFiles().constFirst();
 }

@@ -23,6 +23,7 @@
 #include "Einstellelemente.h"
 #include "Einstelltexte.h"
 #include "Kartenmaler.h"
+#include "Qtext.h"
 #include "Spielercharakter.h"
 #include "engine/Regeln.h"
 #include "settings/Benutzerspeicher.h"
@@ -36,8 +37,6 @@ namespace {
 
 using namespace einstelltext;
 
-QString t(const char* text) { return QString::fromUtf8(text); }
-QString t(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
 // Names are read into a buffer of 254 characters, so 253 remain.
 constexpr int NamenLaenge = static_cast<int>(settings::Textpuffer) - 1;

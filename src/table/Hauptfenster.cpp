@@ -9,6 +9,7 @@
 #include <QStyle>
 
 #include "Kartenbilder.h"
+#include "Qtext.h"
 #include "Tischansicht.h"
 #include "Tischtexte.h"
 #include "engine/Spielablauf.h"
@@ -17,8 +18,6 @@
 namespace table {
 
 namespace {
-QString t(const char* text) { return QString::fromUtf8(text); }
-QString t(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 }  // namespace
 
 Hauptfenster::Hauptfenster(QWidget* parent)

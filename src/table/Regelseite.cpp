@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "Einstelltexte.h"
+#include "Qtext.h"
 #include "Tischtexte.h"
 
 namespace table {
@@ -132,7 +133,6 @@ QString frist(int stich) {
 
 QString regelnHtml(const engine::RegelOptionen& r) {
     using namespace einstelltext;
-    const auto t = [](const char* text) { return QString::fromUtf8(text); };
     QString html = QStringLiteral("<h1>%1</h1><h2>%2</h2><ul>").arg(t(texte::RegelnTitel), t(texte::IhreRegeln));
     auto zeile = [&](const QString& name, const QString& wert) {
         html += QStringLiteral("<li>%1: <b>%2</b></li>").arg(name.toHtmlEscaped(), wert.toHtmlEscaped());

@@ -10,6 +10,7 @@
 #include "Einstellform.h"
 #include "Hauptfenster.h"
 #include "Kartenbilder.h"
+#include "Qtext.h"
 #include "Regelseite.h"
 #include "Stichbetrachter.h"
 #include "Tischsteuerung.h"
@@ -26,8 +27,6 @@
 namespace table {
 
 namespace {
-
-QString t(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
 void melden(QWidget* eltern, const savegame::Meldung& m) {
     const QString titel = QString::fromUtf8(texte::Fenstertitel);

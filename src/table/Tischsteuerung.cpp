@@ -12,6 +12,7 @@
 #include "Hauptfenster.h"
 #include "Meldungsdialog.h"
 #include "Parteizeiger.h"
+#include "Qtext.h"
 #include "Spielendedialog.h"
 #include "Stichbetrachter.h"
 #include "Tischansicht.h"
@@ -32,8 +33,6 @@ using engine::Sitz;
 using engine::Steuerung;
 
 namespace {
-
-QString q(const std::string& text) { return QString::fromStdString(text); }
 
 std::vector<int> codesVon(const engine::Spiel& spiel, const std::vector<int>& positionen) {
     std::vector<int> codes;
@@ -206,11 +205,11 @@ void Tischsteuerung::meldungenZeigen() {
         const engine::Meldung m = meldungen_.front();
         meldungen_.erase(meldungen_.begin());
         if (!optionen_.boxen || (m.titel.empty() && m.text.empty())) {
-            hfo_.statusSetzen(q(m.text));
+            hfo_.statusSetzen(t(m.text));
             continue;
         }
         imDialog_ = true;
-        Meldungsdialog::melden(hfo_.bilder(), &hfo_, q(m.titel), q(m.text), codesVon(spiel_, m.karten));
+        Meldungsdialog::melden(hfo_.bilder(), &hfo_, t(m.titel), t(m.text), codesVon(spiel_, m.karten));
         imDialog_ = false;
     }
 }
@@ -281,7 +280,7 @@ void Tischsteuerung::geben() {
             const engine::Bescheid b = ablauf_.antworten(Antwort::geben(*karten));
             if (b) return;
             imDialog_ = true;
-            QMessageBox::information(&hfo_, hfo_.windowTitle(), q(b.grund));
+            QMessageBox::information(&hfo_, hfo_.windowTitle(), t(b.grund));
             imDialog_ = false;
         }
     }
@@ -307,7 +306,7 @@ engine::ProSitz<int> Tischsteuerung::parteibilder() const {
 
 void Tischsteuerung::anzeigen(const Anfrage& a) {
     Tischansicht& tisch = hfo_.tisch();
-    QString status = q(a.status);
+    QString status = t(a.status);
     if (a.art == Anfrageart::StichEinsammeln && optionen_.einsammeln != 0) status = QString::fromUtf8(texte::Einsammeln);
     hfo_.statusSetzen(status);
     const bool karte = a.art == Anfrageart::Karte;
@@ -326,7 +325,7 @@ void Tischsteuerung::anzeigen(const Anfrage& a) {
 void Tischsteuerung::neugebenBeantworten(const Anfrage& a) {
     const int grund = a.neugeben.grund;
     imDialog_ = true;
-    const bool ja = Meldungsdialog::fragen(hfo_.bilder(), &hfo_, q(engine::neugebenTitel(grund)), q(a.neugeben.frage),
+    const bool ja = Meldungsdialog::fragen(hfo_.bilder(), &hfo_, t(engine::neugebenTitel(grund)), t(a.neugeben.frage),
                                            codesVon(spiel_, engine::gezeigteKarten(spiel_, *a.sitz, grund)));
     imDialog_ = false;
     ablauf_.antworten(Antwort::neugeben(ja));
@@ -340,7 +339,7 @@ void Tischsteuerung::vorbehaltBeantworten(const Anfrage& a) {
     if (b) return;
     if (mensch && !b.grund.empty()) {
         imDialog_ = true;
-        QMessageBox::information(&hfo_, QString::fromUtf8(texte::SoloTitel), q(b.grund));
+        QMessageBox::information(&hfo_, QString::fromUtf8(texte::SoloTitel), t(b.grund));
         imDialog_ = false;
     }
     ablauf_.antworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
@@ -352,7 +351,7 @@ engine::Vorbehalt Tischsteuerung::vorbehaltFragen(const Anfrage& a) {
     imDialog_ = true;
     bool soloWahl = a.vorbehalt.pflichtsolo;
     if (!soloWahl && !a.vorbehalt.soloFrage.empty())
-        soloWahl = QMessageBox::question(&hfo_, QString::fromUtf8(texte::SoloTitel), q(a.vorbehalt.soloFrage),
+        soloWahl = QMessageBox::question(&hfo_, QString::fromUtf8(texte::SoloTitel), t(a.vorbehalt.soloFrage),
                                          QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
     if (soloWahl) {
         std::unique_ptr<Auswahldialog> dialog(soloDialog(a.vorbehalt.soloarten, franz, &hfo_));
@@ -410,7 +409,7 @@ void Tischsteuerung::karteGewaehlt(int pos) {
     if (!b) {
         // The card stays in the hand; the person chooses again.
         imDialog_ = true;
-        QMessageBox::information(&hfo_, QString::fromUtf8(texte::FalscheKarteTitel), q(b.grund));
+        QMessageBox::information(&hfo_, QString::fromUtf8(texte::FalscheKarteTitel), t(b.grund));
         imDialog_ = false;
         return;
     }
@@ -448,7 +447,7 @@ void Tischsteuerung::spielendeZeigen() {
 void Tischsteuerung::ansageBescheid(const engine::Bescheid& b) {
     if (!b && !b.grund.empty()) {
         imDialog_ = true;
-        QMessageBox::information(&hfo_, hfo_.windowTitle(), q(b.grund));
+        QMessageBox::information(&hfo_, hfo_.windowTitle(), t(b.grund));
         imDialog_ = false;
     }
     meldungenZeigen();

@@ -4,13 +4,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "Qtext.h"
 #include "Regelseite.h"
 #include "Tischtexte.h"
 
 namespace table {
 
 namespace {
-QString t(const char* text) { return QString::fromUtf8(text); }
 }
 
 Willkommen::Willkommen(const engine::RegelOptionen& regeln, QWidget* parent) : QDialog(parent), regelOptionen_(regeln) {

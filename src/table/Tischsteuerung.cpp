@@ -43,6 +43,24 @@ std::vector<int> codesVon(const engine::Spiel& spiel, const std::vector<int>& po
 
 }  // namespace
 
+template <class F>
+auto Tischsteuerung::modal(F&& zeigen) {
+    imDialog_ = true;
+    struct Ende {
+        bool& offen;
+        ~Ende() { offen = false; }
+    } ende{imDialog_};
+    return zeigen();
+}
+
+void Tischsteuerung::hinweisen(const QString& titel, const std::string& text) {
+    modal([&] { QMessageBox::information(&hfo_, titel, t(text)); });
+}
+
+bool Tischsteuerung::menschGefragt(const Anfrage& a) const {
+    return a.sitz == Sitz(1) && a.steuerung == Steuerung::Mensch && !spiel_.automatik;
+}
+
 Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent)
     : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &begruendungen_) {
     for (const Sitz s : engine::alleSitze) spiel_.namen[s] = "Spieler" + std::to_string(s.nr());
@@ -208,9 +226,7 @@ void Tischsteuerung::meldungenZeigen() {
             hfo_.statusSetzen(t(m.text));
             continue;
         }
-        imDialog_ = true;
-        Meldungsdialog::melden(hfo_.bilder(), &hfo_, t(m.titel), t(m.text), codesVon(spiel_, m.karten));
-        imDialog_ = false;
+        modal([&] { Meldungsdialog::melden(hfo_.bilder(), &hfo_, t(m.titel), t(m.text), codesVon(spiel_, m.karten)); });
     }
 }
 
@@ -222,7 +238,7 @@ void Tischsteuerung::weiter() {
     begruendungenZeigen();
     const Anfrage a = ablauf_.anfrage();
     anzeigen(a);
-    const bool mensch = a.sitz == Sitz(1) && a.steuerung == Steuerung::Mensch && !spiel_.automatik;
+    const bool mensch = menschGefragt(a);
     switch (a.art) {
         case Anfrageart::Geben:
             geben();
@@ -273,15 +289,11 @@ void Tischsteuerung::geben() {
     // The seat kinds chosen in the settings come in with the deal.
     spiel_.charakter = charaktere_;
     if (kartengeber_) {
-        imDialog_ = true;
-        const auto karten = kartengeber_(spiel_);
-        imDialog_ = false;
+        const auto karten = modal([&] { return kartengeber_(spiel_); });
         if (karten) {
             const engine::Bescheid b = ablauf_.antworten(Antwort::geben(*karten));
             if (b) return;
-            imDialog_ = true;
-            QMessageBox::information(&hfo_, hfo_.windowTitle(), t(b.grund));
-            imDialog_ = false;
+            hinweisen(hfo_.windowTitle(), b.grund);
         }
     }
     ablauf_.antworten(Antwort::zufallsGeben());
@@ -291,9 +303,7 @@ void Tischsteuerung::geben() {
 void Tischsteuerung::begruendungenZeigen() {
     if (begruendungen_.leer()) return;
     if (hfo_.msgBoxModus() != players::MsgBoxZeigen) return begruendungen_.verwerfen();
-    imDialog_ = true;
-    begruendungen_.zeigen(&hfo_, spiel_.namen);
-    imDialog_ = false;
+    modal([&] { begruendungen_.zeigen(&hfo_, spiel_.namen); });
 }
 
 engine::ProSitz<int> Tischsteuerung::parteibilder() const {
@@ -311,7 +321,7 @@ void Tischsteuerung::anzeigen(const Anfrage& a) {
     hfo_.statusSetzen(status);
     const bool karte = a.art == Anfrageart::Karte;
     tisch.setzeAmZug(karte ? a.sitz : std::nullopt);
-    tisch.setzeKartenwahl(karte && a.sitz == Sitz(1) && a.steuerung == Steuerung::Mensch && !spiel_.automatik);
+    tisch.setzeKartenwahl(karte && menschGefragt(a));
     tisch.setzeParteibilder(parteibilder());
     tisch.neuZeichnen();
     hfo_.ansagemenueSetzen(ablauf_.menue(Sitz(1)));
@@ -324,31 +334,27 @@ void Tischsteuerung::anzeigen(const Anfrage& a) {
 
 void Tischsteuerung::neugebenBeantworten(const Anfrage& a) {
     const int grund = a.neugeben.grund;
-    imDialog_ = true;
-    const bool ja = Meldungsdialog::fragen(hfo_.bilder(), &hfo_, t(engine::neugebenTitel(grund)), t(a.neugeben.frage),
-                                           codesVon(spiel_, engine::gezeigteKarten(spiel_, *a.sitz, grund)));
-    imDialog_ = false;
+    const bool ja = modal([&] {
+        return Meldungsdialog::fragen(hfo_.bilder(), &hfo_, t(engine::neugebenTitel(grund)), t(a.neugeben.frage),
+                                      codesVon(spiel_, engine::gezeigteKarten(spiel_, *a.sitz, grund)));
+    });
     ablauf_.antworten(Antwort::neugeben(ja));
 }
 
 void Tischsteuerung::vorbehaltBeantworten(const Anfrage& a) {
     const Sitz s = *a.sitz;
-    const bool mensch = s == Sitz(1) && a.steuerung == Steuerung::Mensch && !spiel_.automatik;
-    const engine::Vorbehalt v = mensch ? vorbehaltFragen(a) : entscheider(s).vorbehaltWaehlen(spiel_, s);
+    const bool mensch = menschGefragt(a);
+    const engine::Vorbehalt v =
+        mensch ? modal([&] { return vorbehaltFragen(a); }) : entscheider(s).vorbehaltWaehlen(spiel_, s);
     const engine::Bescheid b = ablauf_.antworten(Antwort::mitVorbehalt(v));
     if (b) return;
-    if (mensch && !b.grund.empty()) {
-        imDialog_ = true;
-        QMessageBox::information(&hfo_, QString::fromUtf8(texte::SoloTitel), t(b.grund));
-        imDialog_ = false;
-    }
+    if (mensch && !b.grund.empty()) hinweisen(t(texte::SoloTitel), b.grund);
     ablauf_.antworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
 }
 
 engine::Vorbehalt Tischsteuerung::vorbehaltFragen(const Anfrage& a) {
     engine::Vorbehalt v;
     const bool franz = engine::franzoesischeBilder(optionen_.kartenbild);
-    imDialog_ = true;
     bool soloWahl = a.vorbehalt.pflichtsolo;
     if (!soloWahl && !a.vorbehalt.soloFrage.empty())
         soloWahl = QMessageBox::question(&hfo_, QString::fromUtf8(texte::SoloTitel), t(a.vorbehalt.soloFrage),
@@ -372,7 +378,6 @@ engine::Vorbehalt Tischsteuerung::vorbehaltFragen(const Anfrage& a) {
             v.hochzeitArt = art;
         }
     }
-    imDialog_ = false;
     return v;
 }
 
@@ -402,15 +407,11 @@ void Tischsteuerung::karteGelegt(int pos, Sitz sitz) {
 
 void Tischsteuerung::karteGewaehlt(int pos) {
     const Anfrage a = ablauf_.anfrage();
-    if (a.art != Anfrageart::Karte || a.sitz != Sitz(1) || a.steuerung != Steuerung::Mensch || spiel_.automatik ||
-        beschaeftigt_ || imDialog_)
-        return;
+    if (a.art != Anfrageart::Karte || !menschGefragt(a) || beschaeftigt_ || imDialog_) return;
     const engine::Bescheid b = ablauf_.antworten(Antwort::karte(pos));
     if (!b) {
         // The card stays in the hand; the person chooses again.
-        imDialog_ = true;
-        QMessageBox::information(&hfo_, QString::fromUtf8(texte::FalscheKarteTitel), t(b.grund));
-        imDialog_ = false;
+        hinweisen(t(texte::FalscheKarteTitel), b.grund);
         return;
     }
     karteGelegt(pos, Sitz(1));
@@ -438,18 +439,14 @@ void Tischsteuerung::spielendeZeigen() {
     r.namen = spiel_.namen;
     r.punkte = e.punkte;
     r.summen = spiel_.partie.punkte;
-    imDialog_ = true;
-    Spielendedialog box(r, &hfo_);
-    box.exec();
-    imDialog_ = false;
+    modal([&] {
+        Spielendedialog box(r, &hfo_);
+        box.exec();
+    });
 }
 
 void Tischsteuerung::ansageBescheid(const engine::Bescheid& b) {
-    if (!b && !b.grund.empty()) {
-        imDialog_ = true;
-        QMessageBox::information(&hfo_, hfo_.windowTitle(), t(b.grund));
-        imDialog_ = false;
-    }
+    if (!b && !b.grund.empty()) hinweisen(hfo_.windowTitle(), b.grund);
     meldungenZeigen();
     anzeigen(ablauf_.anfrage());
 }
@@ -464,27 +461,22 @@ void Tischsteuerung::automatikUmschalten() {
     weiter();
 }
 
-void Tischsteuerung::letzterStich() {
-    if (spiel_.stiche.empty()) return;
+void Tischsteuerung::sticheZeigen(const engine::Spiel& spiel, const std::vector<engine::StichProtokoll>& stiche) {
     Stichbetrachter betrachter(hfo_.bilder(), &hfo_);
-    betrachter.setzeStiche(spiel_, {spiel_.stiche.back()}, 0);
-    imDialog_ = true;
-    betrachter.exec();
-    imDialog_ = false;
+    betrachter.setzeStiche(spiel, stiche, 0);
+    modal([&] { betrachter.exec(); });
     weiter();
+}
+
+void Tischsteuerung::letzterStich() {
+    if (!spiel_.stiche.empty()) sticheZeigen(spiel_, {spiel_.stiche.back()});
 }
 
 void Tischsteuerung::alleStiche() {
     const bool vorbei = spiel_.ablauf.phase == engine::Spielphase::Spielende ||
                         spiel_.ablauf.phase == engine::Spielphase::Partieende;
     const engine::Spiel& gezeigt = vorbei ? spiel_ : letztesSpiel_;
-    if (gezeigt.stiche.empty()) return;
-    Stichbetrachter betrachter(hfo_.bilder(), &hfo_);
-    betrachter.setzeStiche(gezeigt, gezeigt.stiche, 0);
-    imDialog_ = true;
-    betrachter.exec();
-    imDialog_ = false;
-    weiter();
+    if (!gezeigt.stiche.empty()) sticheZeigen(gezeigt, gezeigt.stiche);
 }
 
 Spielzettelinhalt Tischsteuerung::spielzettelInhalt() const {
@@ -505,9 +497,7 @@ void Tischsteuerung::spielzettelZeigen() {
     zettel->setzeInhalt(spielzettelInhalt());
     auto* spalte = new QVBoxLayout(&dialog);
     spalte->addWidget(zettel);
-    imDialog_ = true;
-    dialog.exec();
-    imDialog_ = false;
+    modal([&] { dialog.exec(); });
     weiter();
 }
 

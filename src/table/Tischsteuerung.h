@@ -96,6 +96,12 @@ private slots:
     void spielzettelZeigen();
 
 private:
+    // Runs a box or dialog of ours and returns what it returns; the game waits meanwhile.
+    template <class F>
+    auto modal(F&& zeigen);
+    void hinweisen(const QString& titel, const std::string& text);
+    // The open request is for the person at seat 1 (not the computer playing for it).
+    bool menschGefragt(const engine::Anfrage& a) const;
     // Runs one step after `ms` milliseconds; at most one step is planned at a time.
     void planen(int ms, void (Tischsteuerung::*schritt)());
     void karteGelegt(int pos, engine::Sitz sitz);
@@ -114,6 +120,7 @@ private:
     void zustandUebernehmen(const engine::Spiel& stand);
     void einsammeln();
     void spielendeZeigen();
+    void sticheZeigen(const engine::Spiel& spiel, const std::vector<engine::StichProtokoll>& stiche);
     void ansageBescheid(const engine::Bescheid& b);
     engine::Entscheider& entscheider(engine::Sitz sitz);
 

@@ -32,6 +32,13 @@ int gespielteKarten(const Spiel& spiel) {
 
 }  // namespace
 
+int parteibild(Sitz sitz, int parteiBekannt) {
+    const int s = sitz.nr();
+    if (parteiBekannt == ParteiKontra) return s + 2 > 4 ? s : s + 2;
+    if (parteiBekannt >= ParteiRe) return s + 4 > 6 ? s + 2 : s + 4;
+    return s > 2 ? s - 2 : s;
+}
+
 int truempfeInHand(const Spiel& spiel, Sitz sitz) {
     int n = 0;
     for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
@@ -271,13 +278,6 @@ void Tischwissen::folgern(const Spiel& spiel) {
     }
 }
 
-int Tischwissen::bildFuer(Sitz sitz, int bekannt) const {
-    const int s = sitz.nr();
-    if (bekannt == ParteiKontra) return s + 2 > 4 ? s : s + 2;
-    if (bekannt >= ParteiRe) return s + 4 > 6 ? s + 2 : s + 4;
-    return s > 2 ? s - 2 : s;
-}
-
 void Tischwissen::parteizeigerSetzen(const Spiel& spiel) {
     const bool angesagt = spiel.solo || spiel.hochzeiter.has_value();
     for (const Sitz x : alleSitze) {
@@ -297,14 +297,14 @@ void Tischwissen::parteizeigerSetzen(const Spiel& spiel) {
 
     int re = 0;
     for (const Sitz x : alleSitze) {
-        parteiBild[x] = bildFuer(x, parteiBekannt[x]);
+        parteiBild[x] = parteibild(x, parteiBekannt[x]);
         if (parteiBekannt[x] >= ParteiRe) ++re;
     }
     if (re >= 2) {
         bool unbekannt = false;
         for (const Sitz x : alleSitze) {
             parteiBekannt[x] = partei[x];
-            parteiBild[x] = bildFuer(x, parteiBekannt[x]);
+            parteiBild[x] = parteibild(x, parteiBekannt[x]);
             if (parteiBekannt[x] == ParteiUnbekannt) unbekannt = true;
         }
         if (unbekannt) hinweis(std::string(text::ParteizeigerFehler));

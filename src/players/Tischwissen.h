@@ -88,7 +88,6 @@ private:
     void allenBekannt(Sitz sitz, int wert);
     void folgern(const Spiel& spiel);
     void hinweis(const std::string& text);
-    int bildFuer(Sitz sitz, int bekannt) const;
 
     engine::Zufallsquelle& zufall_;
     Begruendungssenke* senke_;
@@ -97,6 +96,11 @@ private:
     bool stumm_ = false;  // no messages while replaying
     ProSitz<int> kreuzDamenGespielt_;
 };
+
+// The party picture beside a seat for what is known of its party (0 unknown, 1 Kontra,
+// 2 or 3 Re): 1 and 2 unknown, 3 and 4 Kontra, 5 and 6 Re; odd pictures lie across
+// (seats 1 and 3), even ones stand upright (seats 2 and 4).
+int parteibild(Sitz sitz, int parteiBekannt);
 
 // A seat's trumps still in hand (true count, for the honest rules).
 int truempfeInHand(const Spiel& spiel, Sitz sitz);

@@ -7,16 +7,6 @@
 
 namespace table {
 
-int parteibildFuer(engine::Sitz sitz, int parteiBekannt) {
-    const int s = sitz.nr();
-    switch (parteiBekannt) {
-        case 1: return s + 2 > 4 ? s : s + 2;
-        case 2:
-        case 3: return s + 4 > 6 ? s + 2 : s + 4;
-        default: return s > 2 ? s - 2 : s;
-    }
-}
-
 void parteibildMalen(QPainter& maler, const QRectF& feld, int bild) {
     if (bild < 1 || bild > AnzahlParteibilder) return;
     const int art = (bild + 1) / 2;  // 1 unknown, 2 Kontra, 3 Re

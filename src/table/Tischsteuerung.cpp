@@ -11,7 +11,6 @@
 #include "Dialogtexte.h"
 #include "Hauptfenster.h"
 #include "Meldungsdialog.h"
-#include "Parteizeiger.h"
 #include "Qtext.h"
 #include "Spielendedialog.h"
 #include "Stichbetrachter.h"
@@ -310,7 +309,7 @@ engine::ProSitz<int> Tischsteuerung::parteibilder() const {
     // Until the first trick is taken every seat shows the picture of an unknown party.
     engine::ProSitz<int> bilder;
     for (const Sitz s : engine::alleSitze)
-        bilder[s] = wissen_.zeigerBild[s] > 0 ? wissen_.zeigerBild[s] : parteibildFuer(s, engine::ParteiUnbekannt);
+        bilder[s] = wissen_.zeigerBild[s] > 0 ? wissen_.zeigerBild[s] : players::parteibild(s, engine::ParteiUnbekannt);
     return bilder;
 }
 

@@ -13,13 +13,13 @@
 #include "QtAusgabe.h"
 #include "engine/Stichspiel.h"
 #include "engine/Zufall.h"
+#include "players/Tischwissen.h"
 #include "table/Auswahldialoge.h"
 #include "table/Hauptfenster.h"
 #include "table/Meldungsdialog.h"
 #include "table/Spielendedialog.h"
 #include "table/Spielzettel.h"
 #include "table/Tischansicht.h"
-#include "table/Parteizeiger.h"
 #include "table/Tischsteuerung.h"
 
 namespace {
@@ -97,7 +97,7 @@ struct Menuestand {
 
 engine::ProSitz<int> unbekannteBilder() {
     engine::ProSitz<int> b;
-    for (const Sitz s : engine::alleSitze) b[s] = table::parteibildFuer(s, engine::ParteiUnbekannt);
+    for (const Sitz s : engine::alleSitze) b[s] = players::parteibild(s, engine::ParteiUnbekannt);
     return b;
 }
 

@@ -47,6 +47,11 @@ std::string spieltypName(int spieltyp, bool franzoesisch) {
     }
 }
 
+std::string soloName(int spieltyp, bool franzoesisch) {
+    if (spieltyp == Normalspiel) return std::string(farbwort(Karo, franzoesisch)) + "-Solo";
+    return spieltypName(spieltyp, franzoesisch);
+}
+
 Genus genusVon(int code, bool franzoesisch) {
     if (istJoker(code)) return Genus::Maskulin;
     switch (rangVonCode(code)) {

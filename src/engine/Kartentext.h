@@ -15,6 +15,8 @@ std::string_view wertwort(int code, bool franzoesisch);
 std::string kartenname(int code, bool franzoesisch);
 // Name of a game type ("Normalspiel", "Herz-Solo", "Rot-Solo", ...).
 std::string spieltypName(int spieltyp, bool franzoesisch);
+// Name of a declared solo: as spieltypName, but type 1 is the "Karo-Solo" / "Schellen-Solo".
+std::string soloName(int spieltyp, bool franzoesisch);
 
 // Grammatical gender of a card's value word, for the articles of messages: the
 // Dame is feminine, the Ober masculine.

@@ -27,11 +27,6 @@ std::vector<int> schweineErhoehen(Spiel& spiel, Sitz halter) {
     }
     return karten;
 }
-
-std::string soloName(int spieltyp, bool franzoesisch) {
-    if (spieltyp == Normalspiel) return std::string(farbwort(Karo, franzoesisch)) + "-Solo";
-    return spieltypName(spieltyp, franzoesisch);
-}
 }  // namespace
 
 std::string_view positionsname(Sitz vorhand, Sitz sitz) {

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "Dialogtexte.h"
+#include "engine/Kartentext.h"
 #include "engine/Vorbehalte.h"
 
 namespace table {
@@ -48,7 +49,7 @@ QString Auswahldialog::beschriftung(int nummer) const {
 
 Auswahldialog* soloDialog(const std::vector<int>& erlaubt, bool franzoesisch, QWidget* parent) {
     std::vector<std::pair<int, QString>> wahl;
-    for (int typ : erlaubt) wahl.emplace_back(typ, QString::fromStdString(soloName(typ, franzoesisch)));
+    for (int typ : erlaubt) wahl.emplace_back(typ, QString::fromStdString(engine::soloName(typ, franzoesisch)));
     return new Auswahldialog(QString::fromUtf8(texte::SoloTitel), QString::fromUtf8(texte::SoloWahl), wahl, parent);
 }
 

@@ -27,6 +27,8 @@ int geladenePartieSpielen(const Aufruf& aufruf, std::ostream& aus, std::ostream&
     Autoplayauftrag auftrag;
     auftrag.spiele = aufruf.anzahl;
     auftrag.seed = aufruf.seed.value_or(std::random_device{}());
+    // A drawn seed is printed so the run can be repeated.
+    if (!aufruf.seed) fehler << "Startwert: " << auftrag.seed << "\n";
     auftrag.regeln = stand.optionen;
     auftrag.statistik = aufruf.statistik;
     if (!aufruf.regelDatei.empty()) {

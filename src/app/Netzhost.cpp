@@ -63,6 +63,7 @@ int hostLaufen(Hosttisch& t, const Aufruf& aufruf, std::uint64_t seed, std::ostr
     };
 
     net::Automatiktisch automatik(t.host, t.ablauf, t.automat, aufruf.gaeste);
+    QObject::connect(&automatik, &net::Automatiktisch::begonnen, [] { std::cerr << "Die Partie beginnt" << std::endl; });
     QObject::connect(&automatik, &net::Automatiktisch::fertig, &t.host, [&] {
         t.host.beenden();
         QTimer::singleShot(SchliessenMs, QCoreApplication::instance(), &QCoreApplication::quit);
@@ -106,7 +107,8 @@ int netzHostStarten(const Aufruf& aufruf, int& argc, char** argv) {
         std::cerr << tisch.host.fehler().toStdString() << "\n";
         return 2;
     }
-    std::cerr << "Tisch offen auf Port " << tisch.host.port() << std::endl;
+    // One write, so a script that waits for the line never reads half of it.
+    std::cerr << ("Tisch offen auf Port " + std::to_string(tisch.host.port()) + "\n") << std::flush;
     return mitJsonAusgabe(aufruf.jsonDatei, [&](std::ostream* json, std::ostream& bogen) {
         return hostLaufen(tisch, aufruf, seed, json, bogen);
     });

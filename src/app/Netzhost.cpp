@@ -70,6 +70,8 @@ int hostLaufen(Hosttisch& t, const Aufruf& aufruf, std::uint64_t seed, std::ostr
     });
     QObject::connect(&t.host, &net::Gastgeber::verbindungenGeschlossen, QCoreApplication::instance(),
                      &QCoreApplication::quit);
+    QObject::connect(&t.host, &net::Gastgeber::mitteilung, &t.host,
+                     [](bool, const QString& text) { std::cerr << text.toStdString() << std::endl; });
     // Without a person to ask, a guest that stops answering loses its seat to the computer.
     QObject::connect(&t.host, &net::Gastgeber::abmeldefrage, &t.host,
                      [&](int sitz) { t.host.abmeldefrageBeantworten(sitz, true); });

@@ -34,18 +34,20 @@ inline constexpr std::string_view Netzfehler = "Netzwerkfehler.";
 inline constexpr std::string_view AnmeldungLaeuft = "Anmeldung im Foyer läuft. Bitte warten...";
 
 // The foyer window.
-inline constexpr std::string_view Menueeintrag = "Internet-&Foyer...";
 inline constexpr std::string_view Fenstertitel = "Trumpona - Internet-Foyer";
 inline constexpr std::string_view Anmeldetitel = "Anmeldung im Internet-Foyer";
 inline constexpr std::string_view Name = "Name:";
 inline constexpr std::string_view Server = "Server:";
 inline constexpr std::string_view Port = "Port:";
+inline constexpr std::string_view ServerFehlt = "Bitte den Namen oder die Adresse des Chat-Servers angeben!";
 inline constexpr std::string_view Spieler = "Spieler";
+inline constexpr std::string_view SpalteName = "Name";
 inline constexpr std::string_view Tische = "Tische";
 inline constexpr std::string_view SpalteTisch = "Tisch";
 inline constexpr std::string_view SpalteGastgeber = "Gastgeber";
 inline constexpr std::string_view SpalteFrei = "Freie Plätze";
 inline constexpr std::string_view SpalteRegeln = "Regeln";
+inline constexpr std::string_view SpalteAmTisch = "Am Tisch";
 inline constexpr std::string_view ImFoyer = "im Foyer";
 inline constexpr std::string_view FoyerChat = "Foyer-Chat";
 inline constexpr std::string_view PrivatChat = "Privat-Chat";

@@ -20,10 +20,12 @@ struct Aufruf {
     bool statistik = false;            // --stats
     std::vector<std::string> spieler;  // --players A,B
     std::string joinAdresse;           // --join HOST[:PORT]
-    int port = 0;                      // --port P
+    std::optional<int> port;           // --port P (0: any free port)
     std::string name;                  // --name NAME
     bool automatisch = false;          // --auto
     int spiele = 0;                    // --games N
+    int gaeste = 0;                    // --guests K
+    std::optional<int> takt;           // --tick MS: the network pump interval
 };
 
 struct Auswertung {

@@ -60,6 +60,20 @@ inline constexpr std::string_view Verlassen = "Foyer verlassen";
 inline constexpr std::string_view KeinFreierTisch = "Bitte wählen Sie einen Tisch mit freiem Platz.";
 inline constexpr std::string_view KeinPrivatpartner = "Bitte wählen Sie zuerst einen Spieler in der Liste.";
 
+// The rules of a table in its announcement: "48 Karten, Ende nach 24 Spielen, Schweine".
+inline constexpr std::string_view Karten = " Karten";
+inline constexpr std::string_view EndeNach = ", Ende nach ";
+inline constexpr std::string_view Spielen = " Spielen";
+inline constexpr std::string_view EndeBei = ", Ende bei ";
+inline constexpr std::string_view Punkten = " Punkten";
+inline constexpr std::string_view MitJoker = ", Joker";
+inline constexpr std::string_view MitSchweinen = ", Schweine";
+inline constexpr std::string_view OhneSolo = ", ohne Solo";
+
+// The headless foyer player.
+inline constexpr std::string_view KeinFreierPlatz = "Im Foyer ist kein Tisch mit freiem Platz zu finden.";
+inline constexpr std::string_view FoyerAufruf = "--foyer braucht --name, --auto und --open-table oder --take-seat";
+
 // The automatic answer of a player who cannot take chat messages now.
 inline constexpr std::string_view KannNichtEmpfangen = "_kann_im_Moment_keine_Nachrichten_von_Dir_empfangen!";
 

@@ -226,13 +226,18 @@ void Foyerfenster::angemeldetSetzen(bool angemeldet) {
     knoepfeAnpassen();
 }
 
+void Foyerfenster::tischseiteSetzen(bool vorhanden) {
+    tischseite_ = vorhanden;
+    knoepfeAnpassen();
+}
+
 void Foyerfenster::statusSetzen(const QString& text) { status_->setText(text); }
 
 void Foyerfenster::knoepfeAnpassen() {
     const QTreeWidgetItem* gewaehlt = tische_->currentItem();
     const bool frei = gewaehlt && gewaehlt->data(SpFrei, Qt::UserRole).toInt() > 0;
-    eroeffnen_->setEnabled(angemeldet_ && amTisch_ == 0);
-    platzNehmen_->setEnabled(angemeldet_ && amTisch_ == 0 && frei);
+    eroeffnen_->setEnabled(tischseite_ && angemeldet_ && amTisch_ == 0);
+    platzNehmen_->setEnabled(tischseite_ && angemeldet_ && amTisch_ == 0 && frei);
     zurueck_->setEnabled(amTisch_ != 0);
 }
 

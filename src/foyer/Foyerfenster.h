@@ -35,6 +35,8 @@ public:
     // The table we sit at (own or as a guest), 0 in the foyer: the buttons follow.
     void amTischSetzen(int nummer);
     void angemeldetSetzen(bool angemeldet);
+    // Whether anything can seat us at a table; without, the table buttons stay off.
+    void tischseiteSetzen(bool vorhanden);
     void statusSetzen(const QString& text);
     // Opens (or shows) the private chat with a player.
     void privatchatOeffnen(const QString& nick);
@@ -83,6 +85,7 @@ private:
     QLabel* status_ = nullptr;
     int amTisch_ = 0;
     bool angemeldet_ = false;
+    bool tischseite_ = false;
 };
 
 }  // namespace foyer

@@ -1,7 +1,10 @@
 #include "Foyerprogramm.h"
 
 #include <QDockWidget>
+#include <QCoreApplication>
 #include <QGuiApplication>
+#include <QMetaMethod>
+#include <QProcess>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -90,6 +93,8 @@ Foyerprogramm::~Foyerprogramm() {
 
 void Foyerprogramm::oeffnen() {
     if (!geometrieGeladen_) platzGeometrieLaden();
+    fenster_->tischseiteSetzen(isSignalConnected(QMetaMethod::fromSignal(&Foyerprogramm::platzNehmenGewuenscht)) &&
+                               isSignalConnected(QMetaMethod::fromSignal(&Foyerprogramm::tischEroeffnenGewuenscht)));
     fenster_->show();
     fenster_->raise();
     fenster_->activateWindow();
@@ -164,6 +169,14 @@ void Foyerprogramm::zurueckImFoyer() {
     verbindung_->platzVerlassen();
     listenZeigen();
     oeffnen();
+}
+
+bool insFoyerNeustarten(settings::Benutzerspeicher& speicher) {
+    speicher.restartVormerken();
+    speicher.synchronisieren();
+    if (QProcess::startDetached(QCoreApplication::applicationFilePath(), {})) return true;
+    speicher.restartUebernehmen();  // no new program: nobody would read the marker
+    return false;
 }
 
 void Foyerprogramm::platzGeometrieLaden() {

@@ -62,4 +62,9 @@ private:
     bool geometrieGeladen_ = false;
 };
 
+// The "Restart" path of a guest whose table was lost: marks the restart and
+// starts the program anew, which then opens the foyer; the caller ends this
+// one. False when no new program could be started.
+bool insFoyerNeustarten(settings::Benutzerspeicher& speicher);
+
 }  // namespace foyer

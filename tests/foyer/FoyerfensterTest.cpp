@@ -70,6 +70,8 @@ protected:
 };
 
 TEST_F(Foyerfensterprobe, AnmeldenChattenUndPlatzNehmen) {
+    QSignalSpy gewuenscht(&programm, &Foyerprogramm::platzNehmenGewuenscht);
+    QSignalSpy eroeffnen(&programm, &Foyerprogramm::tischEroeffnenGewuenscht);
     programm.oeffnen();
     anmeldungAbschicken(QStringLiteral("Anna"));
     ASSERT_TRUE(QTest::qWaitFor([&] { return spalte("lstSpieler", 0).contains(QStringLiteral("Anna")); }, Frist));
@@ -98,7 +100,6 @@ TEST_F(Foyerfensterprobe, AnmeldenChattenUndPlatzNehmen) {
     EXPECT_FALSE(platz->isEnabled());
     liste("lstTische")->setCurrentItem(tisch);
     ASSERT_TRUE(platz->isEnabled());
-    QSignalSpy gewuenscht(&programm, &Foyerprogramm::platzNehmenGewuenscht);
     platz->click();
     ASSERT_EQ(gewuenscht.count(), 1);
     EXPECT_EQ(gewuenscht.at(0).at(0).value<Tischangebot>().port, 40002);

@@ -53,6 +53,10 @@ protected:
         QSignalSpy angemeldet(&v, &Foyerverbindung::angemeldet);
         v.anmelden(QStringLiteral("127.0.0.1"), irc.port(), name);
         ASSERT_TRUE(angemeldet.wait(Frist));
+        ASSERT_TRUE(QTest::qWaitFor([&] {
+            const auto alle = v.sitzung().spieler();
+            return std::any_of(alle.begin(), alle.end(), [&](const auto& s) { return s.nick == name.toStdString(); });
+        }, Frist));
     }
     QTreeWidget* liste(const char* name) { return programm.fenster().findChild<QTreeWidget*>(QLatin1String(name)); }
     QStringList spalte(const char* name, int spalte) {
@@ -110,6 +114,20 @@ TEST_F(Foyerfensterprobe, AnmeldenChattenUndPlatzNehmen) {
     }, Frist));
     EXPECT_TRUE(programm.fenster().findChild<QPushButton*>(QStringLiteral("cmdZurueck"))->isEnabled());
     EXPECT_FALSE(programm.fenster().findChild<QPushButton*>(QStringLiteral("cmdTischEroeffnen"))->isEnabled());
+    // The host counts the seat; a newcomer; Anna types into the foyer chat.
+    bert.freiePlaetzeSetzen(2);
+    Foyerverbindung carl;
+    gastAnmelden(carl, QStringLiteral("Carl"));
+    QSignalSpy beiCarl(&carl, &Foyerverbindung::foyerChat);
+    auto* eingabe = programm.fenster().findChild<QLineEdit*>(QStringLiteral("txtFoyerEingabe"));
+    eingabe->setText(QStringLiteral("Ich sitze schon an Tisch 1"));
+    QTest::keyClick(eingabe, Qt::Key_Return);
+    ASSERT_TRUE(beiCarl.wait(Frist));
+    EXPECT_EQ(beiCarl.at(0).at(0).toString(), QStringLiteral("Anna"));
+    EXPECT_TRUE(foyerText->toPlainText().endsWith(QStringLiteral("Anna: Ich sitze schon an Tisch 1")));
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        return spalte("lstTische", 2) == QStringList{QStringLiteral("2")} && spalte("lstSpieler", 0).contains(QStringLiteral("Carl"));
+    }, Frist));
     programm.fenster().resize(900, 560);
     testhilfe::bildAblegen(programm.fenster(), QStringLiteral("foyerfenster"));
 }

@@ -7,12 +7,11 @@
 #include <QSpinBox>
 
 #include "Foyertexte.h"
+#include "table/Qtext.h"
 
 namespace foyer {
 
-namespace {
-QString t(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
-}  // namespace
+using table::t;
 
 Foyeranmeldung::Foyeranmeldung(Namenspruefung pruefung, QWidget* parent)
     : QDialog(parent), pruefung_(std::move(pruefung)), name_(new QLineEdit), server_(new QLineEdit), port_(new QSpinBox) {

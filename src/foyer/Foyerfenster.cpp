@@ -15,12 +15,14 @@
 #include <QVBoxLayout>
 
 #include "Foyertexte.h"
+#include "table/Qtext.h"
 
 namespace foyer {
 
+using table::t;
+
 namespace {
 
-QString t(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 QString q(const std::string& text) { return QString::fromStdString(text); }
 
 enum TischSpalte { SpNummer, SpGastgeber, SpFrei, SpRegeln, SpAmTisch };

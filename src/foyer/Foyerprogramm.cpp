@@ -11,15 +11,16 @@
 
 #include "Foyerfenster.h"
 #include "Foyertexte.h"
+#include "table/Qtext.h"
 #include "Foyerverbindung.h"
 #include "settings/Benutzerspeicher.h"
 #include "table/Fensterplatz.h"
 
 namespace foyer {
 
-namespace {
+using table::t;
 
-QString t(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
+namespace {
 
 const QString StartNick = QStringLiteral("StartNick");
 const QString IrcServer = QStringLiteral("IRCServer");

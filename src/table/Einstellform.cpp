@@ -23,6 +23,7 @@
 #include "Einstellelemente.h"
 #include "Einstelltexte.h"
 #include "Kartenmaler.h"
+#include "Mailgruppe.h"
 #include "Qtext.h"
 #include "Spielercharakter.h"
 #include "engine/Regeln.h"
@@ -458,6 +459,8 @@ QWidget* Einstellform::netzwerkSeite() {
     spalte->addWidget(foyer);
     // Numbers need no full line.
     for (QSpinBox* zahl : {serverport_, netztempo_, ircPort_}) zahl->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    mail_ = new Mailgruppe(seite);
+    spalte->addWidget(mail_);
     spalte->addStretch();
     return seite;
 }
@@ -517,6 +520,7 @@ Benutzereinstellungen Einstellform::benutzer() const {
     b.ircPort = ircPort_->value();
     b.ircRaum = ircRaum_->text();
     b.manuelleVerteilung = manuelleVerteilung_->isChecked();
+    b.mail = mail_->konto();
     return b;
 }
 
@@ -537,6 +541,7 @@ void Einstellform::setzeBenutzer(const Benutzereinstellungen& b) {
     ircPort_->setValue(b.ircPort);
     ircRaum_->setText(b.ircRaum);
     manuelleVerteilung_->setChecked(b.manuelleVerteilung);
+    mail_->setzeKonto(b.mail);
 }
 
 bool Einstellform::speichern() const { return speichernJn_->isChecked(); }

@@ -39,6 +39,7 @@ Ergebnisdialog::Ergebnisdialog(QString ordner, services::Mailkonto konto, QWidge
     liste_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     liste_->header()->setSectionResizeMode(1, QHeaderView::Stretch);
     liste_->header()->setSectionResizeMode(2, QHeaderView::Fixed);
+    liste_->header()->setStretchLastSection(false);
     liste_->header()->resizeSection(2, 140);
     spalte->addWidget(liste_, 1);
     ziel_ = new QLabel(this);
@@ -126,7 +127,10 @@ QProgressBar* Ergebnisdialog::balken(const QString& datei) const {
 }
 
 void Ergebnisdialog::standSetzen(const QString& datei, const QString& text) {
-    if (QTreeWidgetItem* z = zeile(datei)) z->setText(1, text);
+    if (QTreeWidgetItem* z = zeile(datei)) {
+        z->setText(1, text);
+        z->setToolTip(1, text);  // a long failure does not fit the column
+    }
 }
 
 QString Ergebnisdialog::status() const { return status_->text(); }

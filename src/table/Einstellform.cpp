@@ -456,11 +456,14 @@ QWidget* Einstellform::netzwerkSeite() {
     ircRaum_ = new QLineEdit(foyer);
     ircRaum_->setObjectName(QStringLiteral("IRCRaum"));
     fform->addRow(t(IrcRaum), ircRaum_);
-    spalte->addWidget(foyer);
+    // The foyer and the result mail side by side, so the tab fits a small screen.
+    auto* internet = new QHBoxLayout;
+    internet->addWidget(foyer, 1);
+    mail_ = new Mailgruppe(seite);
+    internet->addWidget(mail_, 1);
+    spalte->addLayout(internet);
     // Numbers need no full line.
     for (QSpinBox* zahl : {serverport_, netztempo_, ircPort_}) zahl->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    mail_ = new Mailgruppe(seite);
-    spalte->addWidget(mail_);
     spalte->addStretch();
     return seite;
 }

@@ -28,14 +28,18 @@ Mailgruppe::Mailgruppe(QWidget* parent) : QGroupBox(t(Gruppe), parent) {
     auto* zeile = new QHBoxLayout;
     zeile->addWidget(server_, 1);
     zeile->addWidget(port_);
-    form->addRow(t(Mailserver) + QStringLiteral(" / ") + t(Port), zeile);
+    form->addRow(t(Mailserver), zeile);
     helo_ = feld("MailHelo");
     helo_->setPlaceholderText(t(HeloLeer));
     form->addRow(t(HeloDomain), helo_);
     absender_ = feld("MailAbsender");
-    form->addRow(t(Absender), absender_);
+    absender_->setPlaceholderText(t(AbsenderAdresse));
     absendername_ = feld("MailAbsendername");
-    form->addRow(t(Absendername), absendername_);
+    absendername_->setPlaceholderText(t(Absendername));
+    auto* absender = new QHBoxLayout;
+    absender->addWidget(absendername_, 2);
+    absender->addWidget(absender_, 3);
+    form->addRow(t(Absender), absender);
     empfaenger_ = feld("MailEmpfaenger");
     form->addRow(t(Empfaenger), empfaenger_);
 }

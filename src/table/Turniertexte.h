@@ -35,12 +35,13 @@ inline constexpr char OhneKonto[] = "Noch keine Turnierleitung eingetragen (Eins
 
 // Settings, Netzwerk tab.
 inline constexpr char Gruppe[] = "Turnierergebnisse per Mail";
-inline constexpr char Mailserver[] = "Mailserver";
+inline constexpr char Mailserver[] = "Server";
 inline constexpr char Port[] = "Port";
 inline constexpr char HeloDomain[] = "HELO-Domäne";
-inline constexpr char HeloLeer[] = "leer: Domäne der Absenderadresse";
-inline constexpr char Absender[] = "Absenderadresse";
-inline constexpr char Absendername[] = "Absendername";
-inline constexpr char Empfaenger[] = "Turnierleitung (Adresse)";
+inline constexpr char HeloLeer[] = "leer: die der Absenderadresse";
+inline constexpr char Absender[] = "Absender";
+inline constexpr char AbsenderAdresse[] = "Adresse";
+inline constexpr char Absendername[] = "Name";
+inline constexpr char Empfaenger[] = "An (Turnierleitung)";
 
 }  // namespace table::turniertext

@@ -5,6 +5,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QSpinBox>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -18,6 +21,7 @@
 #include "services/Ergebnisablage.h"
 #include "services/Postserver.h"
 #include "settings/Benutzerspeicher.h"
+#include "table/Einstellform.h"
 #include "table/Ergebnisdialog.h"
 #include "table/Hauptfenster.h"
 #include "table/Spielendedialog.h"
@@ -210,6 +214,29 @@ TEST_F(Turnier, ErgebnisdialogSendetJedeDateiMitStandUndFortschritt) {
     testhilfe::bildAblegen(dialog, QStringLiteral("ergebnisse-gesendet"));
     EXPECT_TRUE(dateien().isEmpty());
     EXPECT_EQ(testhilfe::postfachLesen(postfach).size(), 1);
+}
+
+TEST_F(Turnier, MailkontoDesNetzwerkreitersBleibtBeiJedemOk) {
+    settings::Benutzerspeicher speicher;
+    testhilfe::Testdateiwahl wahl;
+    const QString optionsdatei = ordner_.filePath(QStringLiteral("rupalive.ini"));
+    const services::Mailkonto konto{QStringLiteral("mail.example.org"), 587, QStringLiteral("heim.example.org"),
+                                    QStringLiteral("anna@example.org"), QStringLiteral("Anna Ä"),
+                                    QStringLiteral("leitung@example.org")};
+    {
+        table::Einstellform form({}, table::benutzereinstellungenLesen(speicher), {speicher, optionsdatei, wahl, {}});
+        const std::pair<const char*, QString> felder[] = {{"MailServer", konto.server},     {"MailHelo", konto.heloDomain},
+                                                          {"MailAbsender", konto.absender}, {"MailAbsendername", konto.absendername},
+                                                          {"MailEmpfaenger", konto.empfaenger}};
+        for (const auto& [name, text] : felder) form.findChild<QLineEdit*>(QString::fromLatin1(name))->setText(text);
+        form.findChild<QSpinBox*>(QStringLiteral("MailPort"))->setValue(587);
+        form.findChild<QCheckBox*>(QStringLiteral("speichern_jn"))->setChecked(false);
+        form.accept();
+    }
+    EXPECT_EQ(services::mailkontoLesen(speicher), konto);
+    table::Einstellform wieder({}, table::benutzereinstellungenLesen(speicher), {speicher, optionsdatei, wahl, {}});
+    EXPECT_EQ(wieder.benutzer().mail, konto);
+    speicher.zuruecksetzen(optionsdatei);
 }
 
 }  // namespace

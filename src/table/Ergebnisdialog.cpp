@@ -88,6 +88,7 @@ Ergebnisdialog::Ergebnisdialog(QString ordner, services::Mailkonto konto, QWidge
     connect(&versand_, &services::Ergebnisversand::fertig, this, [this](int, int behalten) {
         if (liste_->topLevelItemCount() == 0) status_->setText(t(KeineWartenden));
         ueberschrift_->setText(behalten > 0 ? t(Wartende) : t(KeineWartenden));
+        senden_->setEnabled(!services::wartendeErgebnisse(ordner_).isEmpty());
     });
 
     auffrischen();

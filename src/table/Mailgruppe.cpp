@@ -32,14 +32,10 @@ Mailgruppe::Mailgruppe(QWidget* parent) : QGroupBox(t(Gruppe), parent) {
     helo_ = feld("MailHelo");
     helo_->setPlaceholderText(t(HeloLeer));
     form->addRow(t(HeloDomain), helo_);
-    absender_ = feld("MailAbsender");
-    absender_->setPlaceholderText(t(AbsenderAdresse));
     absendername_ = feld("MailAbsendername");
-    absendername_->setPlaceholderText(t(Absendername));
-    auto* absender = new QHBoxLayout;
-    absender->addWidget(absendername_, 2);
-    absender->addWidget(absender_, 3);
-    form->addRow(t(Absender), absender);
+    form->addRow(t(Absendername), absendername_);
+    absender_ = feld("MailAbsender");
+    form->addRow(t(Absender), absender_);
     empfaenger_ = feld("MailEmpfaenger");
     form->addRow(t(Empfaenger), empfaenger_);
 }

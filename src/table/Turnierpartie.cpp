@@ -32,7 +32,7 @@ using namespace turniertext;
 
 QString turnierregelnHtml(int spiele) {
     QString html = regelnHtml(services::turnierregeln(spiele));
-    html.replace(QStringLiteral("<h2>%1</h2>").arg(t(texte::IhreRegeln)), QStringLiteral("<h2>%1</h2>").arg(t(TurnierTitel)));
+    html.replace(QStringLiteral("<h2>%1</h2>").arg(t(texte::IhreRegeln)), QStringLiteral("<h2>%1</h2>").arg(t(RegelnDerTurnierpartie)));
     return html;
 }
 
@@ -80,6 +80,7 @@ void Turnierpartie::turnierpartieZeigen() {
     auto* form = new QFormLayout;
     auto* laenge = new QComboBox(&dialog);
     laenge->setObjectName(QStringLiteral("Ende_nach"));
+    laenge->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     for (const int n : services::Turnierlaengen) laenge->addItem(QString::number(n), n);
     laenge->setCurrentIndex(laenge->count() - 1);
     form->addRow(t(AnzahlSpiele), laenge);

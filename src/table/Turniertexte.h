@@ -14,6 +14,7 @@ inline constexpr char TurnierErklaerung[] =
     "danach wieder. Die Computerspieler spielen nach dem Regelwerk, Karten werden nicht von Hand verteilt. "
     "Am Ende der Partie wird das Ergebnis gespeichert und kann an die Turnierleitung geschickt werden.";
 inline constexpr char AnzahlSpiele[] = "Anzahl der Spiele:";
+inline constexpr char RegelnDerTurnierpartie[] = "Regeln der Turnierpartie";
 inline constexpr char Beginnen[] = "Turnierpartie beginnen";
 inline constexpr char Laeuft[] = "Turnierpartie: Spiel %1 von %2";
 inline constexpr char Abgebrochen[] =
@@ -39,9 +40,8 @@ inline constexpr char Mailserver[] = "Server";
 inline constexpr char Port[] = "Port";
 inline constexpr char HeloDomain[] = "HELO-Domäne";
 inline constexpr char HeloLeer[] = "leer: die der Absenderadresse";
-inline constexpr char Absender[] = "Absender";
-inline constexpr char AbsenderAdresse[] = "Adresse";
-inline constexpr char Absendername[] = "Name";
+inline constexpr char Absender[] = "Absenderadresse";
+inline constexpr char Absendername[] = "Absendername";
 inline constexpr char Empfaenger[] = "An (Turnierleitung)";
 
 }  // namespace table::turniertext

@@ -7,7 +7,7 @@
 
 namespace app {
 
-enum class Modus { Spiel, Hilfe, Version, Autoplay, Turnier, Screenshot, Host, Join, Foyer };
+enum class Modus { Spiel, Hilfe, Version, Autoplay, Turnier, Screenshot, Host, Join, Foyer, Ergebnisse };
 
 // What a headless foyer player does there.
 enum class Foyerrolle { Keine, TischEroeffnen, PlatzNehmen };
@@ -31,6 +31,11 @@ struct Aufruf {
     int spiele = 0;                    // --games N
     int gaeste = 0;                    // --guests K
     std::optional<int> takt;           // --tick MS: the network pump interval
+    std::string ergebnisOrdner;        // --upload-results --dir DIR
+    std::string smtpHost;              // --smtp HOST[:PORT]
+    int smtpPort = 0;                  //   0: the configured port
+    std::string absender;              // --from ADDR
+    std::string empfaenger;            // --to ADDR
 };
 
 struct Auswertung {

@@ -4,6 +4,7 @@
 
 #include "Autoplay.h"
 #include "PartieFortsetzen.h"
+#include "Ergebnisupload.h"
 #include "Fensterstart.h"
 #include "Foyerlauf.h"
 #include "Kommandozeile.h"
@@ -38,6 +39,7 @@ int main(int argc, char** argv) {
         case app::Modus::Host: return app::netzHostStarten(aufruf, argc, argv);
         case app::Modus::Join: return app::netzGastStarten(aufruf, argc, argv);
         case app::Modus::Foyer: return app::foyerStarten(aufruf, argc, argv);
+        case app::Modus::Ergebnisse: return app::ergebnisseSenden(aufruf, argc, argv);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

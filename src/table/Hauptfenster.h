@@ -42,6 +42,11 @@ public:
     QAction* vollbildAktion() const { return vollbild_; }
     QAction* regelnAktion() const { return regeln_; }
     QMenu* spielMenue() const { return spielMenue_; }
+    // The learning aids: review, statistics, open hands, cards played.
+    QAction* spielverlaufAktion() const { return spielverlauf_; }
+    QAction* statistikAktion() const { return statistik_; }
+    QAction* alleKartenAktion() const { return alleKarten_; }
+    QAction* gespielteKartenAktion() const { return gespielteKarten_; }
     // Network play is later work.
     QAction* netzprotokollAktion() const { return netzprotokoll_; }
 
@@ -100,6 +105,10 @@ private:
     QAction* vollbild_ = nullptr;
     QAction* regeln_ = nullptr;
     QMenu* spielMenue_ = nullptr;
+    QAction* spielverlauf_ = nullptr;
+    QAction* statistik_ = nullptr;
+    QAction* alleKarten_ = nullptr;
+    QAction* gespielteKarten_ = nullptr;
     bool partieUnterwegs_ = false;
     bool beendenBestaetigt_ = false;
 };

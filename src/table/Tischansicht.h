@@ -31,6 +31,9 @@ public:
     void setzeParteibilder(const engine::ProSitz<int>& bilder);
     const engine::ProSitz<int>& parteibilder() const { return parteibilder_; }
     void setzeStichSichtbar(bool sichtbar);
+    // "Alle Karten zeigen": the other seats' cards face up, for learning.
+    void setzeOffeneHaende(bool an);
+    bool offeneHaende() const { return offeneHaende_; }
 
     // Card movement: a card just played flies from its hand to the trick; a complete
     // trick slides to its winner and is gone. Without "Animation" both end at once.
@@ -77,6 +80,7 @@ private:
     void tischMalen(QPainter& maler) const;
     void karteMalen(QPainter& maler, const Kartenplatz& platz, QSizeF groesse, const QPixmap& bild) const;
     void sitzMalen(QPainter& maler, const Tischlayout& layout, engine::Sitz sitz) const;
+    void offeneHandMalen(QPainter& maler, const Tischlayout& layout, engine::Sitz sitz) const;
     void stichMalen(QPainter& maler, const Tischlayout& layout) const;
     void bewegungMalen(QPainter& maler, const Tischlayout& layout) const;
     void handMalen(QPainter& maler, const Tischlayout& layout) const;
@@ -87,6 +91,8 @@ private:
     std::optional<engine::Sitz> amZug_;
     bool kartenwahl_ = false;
     bool stichSichtbar_ = true;
+    bool offeneHaende_ = false;
+    engine::ProSitz<std::vector<int>> offeneFolge_;  // the other seats' cards as laid out face up
     engine::ProSitz<int> parteibilder_{0};
     std::vector<int> handfolge_;
     int ausgewaehlt_ = 0;  // deck position under the mouse or the keyboard cursor

@@ -10,6 +10,7 @@
 #include "Einstellform.h"
 #include "Hauptfenster.h"
 #include "Kartenbilder.h"
+#include "Lernhilfen.h"
 #include "Qtext.h"
 #include "Regelseite.h"
 #include "Stichbetrachter.h"
@@ -75,7 +76,10 @@ Tischprogramm::Tischprogramm(Hauptfenster& hfo, Tischsteuerung& steuerung, setti
         fensterZeigen();
     });
     steuerung_.setzeKartengeber([this](const engine::Spiel& spiel) { return kartenGeben(spiel); });
+    lernhilfen_ = std::make_unique<Lernhilfen>(hfo_, steuerung_, speicher_);
 }
+
+Tischprogramm::~Tischprogramm() = default;
 
 void Tischprogramm::EinstUebernehmen(const settings::Einstellungen& e, const Benutzereinstellungen& b) {
     const bool vollbildVorher = einstellungen_.vollbild != 0;

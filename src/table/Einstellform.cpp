@@ -25,6 +25,8 @@
 #include "Kartenmaler.h"
 #include "Qtext.h"
 #include "Spielercharakter.h"
+#include "Regelvorlagen.h"
+#include "Vorlagenwahl.h"
 #include "engine/Regeln.h"
 #include "settings/Benutzerspeicher.h"
 #include "settings/Einstellungstexte.h"
@@ -125,6 +127,10 @@ Einstellform::Einstellform(const settings::Einstellungen& e, const Benutzereinst
 
     setzeEinstellungen(e);
     setzeBenutzer(b);
+    // The preset list follows every rule control.
+    for (const Bindung& bindung : bindungen_)
+        if (istRegel(bindung.schluessel.toStdString())) vorlagen_->beobachten(bindung.feld);
+    vorlagen_->erkennen();
 }
 
 Einstellform::~Einstellform() = default;
@@ -177,6 +183,15 @@ QWidget* Einstellform::regelnSeite() {
     auto* rechts = new QVBoxLayout;
     spalten->addLayout(links, 1);
     spalten->addLayout(rechts, 1);
+    vorlagen_ = new Vorlagenwahl(
+        umgebung_.speicher, [this] { return einstellungen().regeln; },
+        [this](const engine::RegelOptionen& r) {
+            settings::Einstellungen e = einstellungen();
+            e.regeln = r;
+            setzeEinstellungen(e);
+        },
+        seite);
+    rechts->addWidget(vorlagen_);
 
     // End of the Partie: by points or after a number of games.
     auto* ende = gruppe(Partieende, seite);

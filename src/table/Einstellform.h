@@ -27,6 +27,7 @@ namespace table {
 
 class Dateiwahl;
 class Kartenvorschau;
+class Vorlagenwahl;
 class Wahlgruppe;
 
 struct Einstellumgebung {
@@ -100,6 +101,7 @@ private:
     QLabel* jokerHinweis_ = nullptr;
     QComboBox* vorhand_ = nullptr;
     Kartenvorschau* vorschau_ = nullptr;
+    Vorlagenwahl* vorlagen_ = nullptr;
     QCheckBox* speichernJn_ = nullptr;
     // Network and foyer.
     QComboBox* netzadapter_ = nullptr;

@@ -22,6 +22,7 @@
 #include "settings/Optionsdatei.h"
 #include "table/Einstellelemente.h"
 #include "table/Einstellform.h"
+#include "table/Regelvorlagen.h"
 
 namespace {
 
@@ -332,3 +333,70 @@ TEST(Dateiwahl, FilterUndDialog) {
 }
 
 }  // namespace
+
+namespace {
+
+// Chooses a preset as a person does: from the list.
+void vorlageWaehlen(table::Einstellform& form, const QString& name) {
+    auto* liste = form.findChild<QComboBox*>(QStringLiteral("regelvorlage"));
+    const int i = liste->findText(name);
+    ASSERT_GE(i, 0) << name.toStdString();
+    liste->setCurrentIndex(i);
+    emit liste->activated(i);
+}
+
+QString gezeigteVorlage(table::Einstellform& form) {
+    return form.findChild<QComboBox*>(QStringLiteral("regelvorlage"))->currentText();
+}
+
+}  // namespace
+
+TEST_F(EinstellformTest, RegelvorlagenSetzenRegelnUndWerdenErkannt) {
+    Einstellungen e;
+    e.regeln.joker = -1;  // the Joker forces the first Dolle high; a preset without it frees the choice again
+    table::Einstellform form(e, {}, umgebung());
+    EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("(eigene Auswahl)"));
+
+    for (const table::Regelvorlage& v : table::festeVorlagen()) {
+        vorlageWaehlen(form, QString::fromStdString(v.name));
+        EXPECT_TRUE(table::passt(form.einstellungen().regeln, v)) << v.name;
+        EXPECT_EQ(gezeigteVorlage(form), QString::fromStdString(v.name));
+        // Names and display options stay as they were.
+        EXPECT_EQ(form.einstellungen().namen, e.namen);
+        EXPECT_EQ(form.einstellungen().kartenbild, e.kartenbild);
+    }
+    EXPECT_TRUE(form.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"))->isEnabled());
+
+    // Turnierregeln: second Dolle beats the first; switching the Joker on overrides that and leaves the preset.
+    vorlageWaehlen(form, QStringLiteral("Turnierregeln"));
+    EXPECT_EQ(form.einstellungen().regeln.herzZehn, 0);
+    form.findChild<QCheckBox*>(QStringLiteral("Joker"))->setChecked(true);
+    EXPECT_EQ(form.einstellungen().regeln.herzZehn, -1);
+    EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("(eigene Auswahl)"));
+
+    // Kept as house rules, they are offered and recognised from then on, in a new dialog too.
+    form.findChild<QPushButton*>(QStringLiteral("hausregeln_merken"))->click();
+    EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("Hausregeln (eigene)"));
+    const engine::RegelOptionen eigene = form.einstellungen().regeln;
+    table::Einstellform neu(Einstellungen{}, {}, umgebung());
+    vorlageWaehlen(neu, QStringLiteral("Hausregeln (eigene)"));
+    EXPECT_EQ(neu.einstellungen().regeln, eigene);
+    EXPECT_EQ(neu.einstellungen().regeln.joker, -1);
+    EXPECT_FALSE(neu.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"))->isEnabled());
+}
+
+TEST(Regelvorlagen, HausregelnAlsText) {
+    engine::RegelOptionen r;
+    r.kontra = 3;
+    r.joker = -1;
+    const table::Regelvorlage v = table::hausregeln(r);
+    EXPECT_EQ(table::anwenden({}, table::hausregelnAusText(table::hausregelnText(v))), r);
+    // What cannot be read is left out; the rest still counts.
+    const table::Regelvorlage kaputt = table::hausregelnAusText("Kontra=2;Unbekannt=1;Limit=x;;=;Joker=-1");
+    EXPECT_EQ(kaputt.werte, (std::vector<std::pair<std::string, int>>{{"Kontra", 2}, {"Joker", -1}}));
+    // A stored 1 is no switched-on rule, as in the game.
+    engine::RegelOptionen eins;
+    eins.joker = 1;
+    EXPECT_FALSE(table::passt(eins, table::hausregeln(r)));
+    EXPECT_TRUE(table::passt(eins, table::hausregeln(engine::RegelOptionen{})));
+}

@@ -102,6 +102,8 @@ private:
     QComboBox* vorhand_ = nullptr;
     Kartenvorschau* vorschau_ = nullptr;
     Vorlagenwahl* vorlagen_ = nullptr;
+    QComboBox* tempo_ = nullptr;   // off, or the pace of the "Animation"
+    int tempoMitBewegung_ = 2;     // the pace kept while the movement is off
     QCheckBox* speichernJn_ = nullptr;
     // Network and foyer.
     QComboBox* netzadapter_ = nullptr;

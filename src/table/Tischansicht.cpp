@@ -122,6 +122,11 @@ void Tischansicht::karteFliegen(int pos, Sitz sitz) {
     bewegen({pos}, {von}, {l.stichplatz(sitz)}, false);
 }
 
+void Tischansicht::setzeBewegungsdauer(int flugMs, int einsammelnMs) {
+    flugMs_ = std::max(0, flugMs);
+    einsammelnMs_ = std::max(0, einsammelnMs);
+}
+
 void Tischansicht::stichEinsammeln(Sitz gewinner) {
     std::vector<int> karten;
     std::vector<Kartenplatz> von, nach;
@@ -141,7 +146,7 @@ void Tischansicht::bewegen(std::vector<int> karten, std::vector<Kartenplatz> von
                            bool ausblenden) {
     animation_->stop();
     bewegung_ = Bewegung{std::move(karten), std::move(von), std::move(nach), ausblenden, 0};
-    animation_->setDuration(optionen_.animation ? (ausblenden ? 320 : 260) : 0);
+    animation_->setDuration(optionen_.animation ? (ausblenden ? einsammelnMs_ : flugMs_) : 0);
     // A zero duration still finishes through the event loop, so callers see one order of events.
     const int nr = ++bewegungNr_;
     QTimer::singleShot(0, animation_, [this, nr] {

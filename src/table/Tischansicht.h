@@ -39,6 +39,8 @@ public:
     // trick slides to its winner and is gone. Without "Animation" both end at once.
     // Either way `bewegungFertig` follows from the event loop, never from inside the call.
     void karteFliegen(int pos, engine::Sitz sitz);
+    // How long a flight and a collection take while "Animation" is on.
+    void setzeBewegungsdauer(int flugMs, int einsammelnMs);
     void stichEinsammeln(engine::Sitz gewinner);
     bool bewegtSich() const;
     // Drops a movement under way without reporting it (the state it showed is gone).
@@ -106,7 +108,9 @@ private:
     };
     std::optional<Bewegung> bewegung_;
     QVariantAnimation* animation_ = nullptr;
-    int bewegungNr_ = 0;  // a start still waiting in the event loop belongs to this movement
+    int bewegungNr_ = 0;
+    int flugMs_ = 260;
+    int einsammelnMs_ = 320;  // a start still waiting in the event loop belongs to this movement
 };
 
 }  // namespace table

@@ -14,6 +14,7 @@
 #include "Qtext.h"
 #include "Regelseite.h"
 #include "Stichbetrachter.h"
+#include "Tempostufen.h"
 #include "Tischsteuerung.h"
 #include "Tischtexte.h"
 #include "Verteilungsdialog.h"
@@ -86,6 +87,7 @@ void Tischprogramm::EinstUebernehmen(const settings::Einstellungen& e, const Ben
     einstellungen_ = e;
     benutzer_ = b;
     steuerung_.setzeOptionen(anzeigeoptionen(e));
+    steuerung_.setzeTempo(tempoFuer(e.animation == 0 ? TempoAus : b.tempo));
     steuerung_.setzeRegelOptionen(e.regeln);
     engine::ProSitz<std::string> namen;
     engine::ProSitz<int> charaktere;

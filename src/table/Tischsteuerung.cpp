@@ -101,6 +101,11 @@ void Tischsteuerung::setzeOptionen(const Anzeigeoptionen& optionen) {
     ablauf_.kartenbildFranzoesisch(engine::franzoesischeBilder(optionen.kartenbild));
 }
 
+void Tischsteuerung::setzeTempo(Tempo tempo) {
+    tempo_ = tempo;
+    hfo_.tisch().setzeBewegungsdauer(tempo.flug, tempo.einsammeln);
+}
+
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
 
 void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {

@@ -26,10 +26,13 @@ class Hauptfenster;
 class Spielzettel;
 class Stichbetrachter;
 
-// How long the table lets a computer card or a full trick be seen (milliseconds).
+// How long the table lets a computer card or a full trick be seen, and how long a
+// card flies to the trick and a trick to its winner (milliseconds; see Tempostufen.h).
 struct Tempo {
     int karte = 550;
     int stich = 1100;
+    int flug = 260;
+    int einsammeln = 320;
 };
 
 class Tischsteuerung : public QObject, public engine::Meldungssenke {
@@ -41,7 +44,7 @@ public:
     void setzeOptionen(const Anzeigeoptionen& optionen);
     void setzeRegelOptionen(const engine::RegelOptionen& regeln);
     void setzeNamen(const engine::ProSitz<std::string>& namen);
-    void setzeTempo(Tempo tempo) { tempo_ = tempo; }
+    void setzeTempo(Tempo tempo);
     // The seats' "charakter" (kind of computer player); taken over with the next deal.
     void setzeCharaktere(const engine::ProSitz<int>& charaktere);
     // Puts a fixed player at a seat instead of the one its character names (tests).

@@ -110,10 +110,10 @@ protected:
     int statistikSpalten_ = -1;
 };
 
-// Three Partien of one game each: the statistics count them per name, the end box
-// of the first offers the review, the menu shows both afterwards.
+// Three Partien of three games each: the statistics count them per name, the end box
+// of the first game offers the review, the menu shows both afterwards.
 TEST_F(LernhilfenTest, DreiPartienStatistikUndSpielverlauf) {
-    Lerntisch t(ordner_.path());
+    Lerntisch t(ordner_.path(), 3);
     QSignalSpy ende(&t.steuerung, &table::Tischsteuerung::partieBeendet);
     t.hfo.automatikAktion()->trigger();
     for (int partie = 1; partie <= 3; ++partie) {
@@ -129,12 +129,12 @@ TEST_F(LernhilfenTest, DreiPartienStatistikUndSpielverlauf) {
     int gewonnen = 0;
     for (const auto& s : st.spieler) {
         EXPECT_EQ(s.partien, 3) << s.name;
-        EXPECT_EQ(s.spiele.anzahl, 3) << s.name;
-        EXPECT_EQ(s.re.anzahl + s.kontra.anzahl, 3) << s.name;
+        EXPECT_EQ(s.spiele.anzahl, 9) << s.name;
+        EXPECT_EQ(s.re.anzahl + s.kontra.anzahl, 9) << s.name;
         gewonnen += s.spiele.gewonnen;
     }
     EXPECT_GT(gewonnen, 0);
-    EXPECT_EQ(st.letztePartie.staende.size(), 1u);
+    EXPECT_EQ(st.letztePartie.staende.size(), 3u);
     EXPECT_EQ(st.letztePartie.namen[Sitz(2)], "Bert");
 
     t.hfo.statistikAktion()->trigger();

@@ -24,6 +24,7 @@ Benutzereinstellungen benutzereinstellungenLesen(const settings::Benutzerspeiche
     b.ircRaum = s.text(QStringLiteral("IRCRaum"));
     b.manuelleVerteilung = s.vorhanden(ManuelleVerteilung) && s.wahr(ManuelleVerteilung);
     if (s.vorhanden(Tempo)) b.tempo = std::clamp(s.zahl(Tempo), 1, 3);
+    b.mail = services::mailkontoLesen(s);
     return b;
 }
 
@@ -41,6 +42,7 @@ void benutzereinstellungenSchreiben(settings::Benutzerspeicher& s, const Benutze
     s.setzeText(QStringLiteral("IRCServer"), b.ircServer);
     s.setzeText(QStringLiteral("IRCRaum"), b.ircRaum);
     s.setzeWahr(QStringLiteral("IPErfragen"), b.ipErfragen);
+    services::mailkontoSchreiben(s, b.mail);
     s.synchronisieren();
 }
 

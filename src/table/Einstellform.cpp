@@ -23,6 +23,7 @@
 #include "Einstellelemente.h"
 #include "Einstelltexte.h"
 #include "Kartenmaler.h"
+#include "Mailgruppe.h"
 #include "Qtext.h"
 #include "Lerntexte.h"
 #include "Spielercharakter.h"
@@ -483,7 +484,12 @@ QWidget* Einstellform::netzwerkSeite() {
     ircRaum_ = new QLineEdit(foyer);
     ircRaum_->setObjectName(QStringLiteral("IRCRaum"));
     fform->addRow(t(IrcRaum), ircRaum_);
-    spalte->addWidget(foyer);
+    // The foyer and the result mail side by side, so the tab fits a small screen.
+    auto* internet = new QHBoxLayout;
+    internet->addWidget(foyer, 1);
+    mail_ = new Mailgruppe(seite);
+    internet->addWidget(mail_, 1);
+    spalte->addLayout(internet);
     // Numbers need no full line.
     for (QSpinBox* zahl : {serverport_, netztempo_, ircPort_}) zahl->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     spalte->addStretch();
@@ -548,6 +554,7 @@ Benutzereinstellungen Einstellform::benutzer() const {
     b.ircRaum = ircRaum_->text();
     b.manuelleVerteilung = manuelleVerteilung_->isChecked();
     b.tempo = tempo_->currentIndex() == TempoAus ? tempoMitBewegung_ : tempo_->currentIndex();
+    b.mail = mail_->konto();
     return b;
 }
 
@@ -570,6 +577,7 @@ void Einstellform::setzeBenutzer(const Benutzereinstellungen& b) {
     manuelleVerteilung_->setChecked(b.manuelleVerteilung);
     tempoMitBewegung_ = std::clamp(b.tempo, static_cast<int>(TempoSchnell), static_cast<int>(TempoLangsam));
     if (tempo_->currentIndex() != TempoAus) tempo_->setCurrentIndex(tempoMitBewegung_);
+    mail_->setzeKonto(b.mail);
 }
 
 bool Einstellform::speichern() const { return speichernJn_->isChecked(); }

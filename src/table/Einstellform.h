@@ -28,6 +28,7 @@ namespace table {
 class Dateiwahl;
 class Kartenvorschau;
 class Vorlagenwahl;
+class Mailgruppe;
 class Wahlgruppe;
 
 struct Einstellumgebung {
@@ -116,6 +117,7 @@ private:
     QSpinBox* ircPort_ = nullptr;
     QSpinBox* netztempo_ = nullptr;
     QComboBox* verbindungsart_ = nullptr;
+    Mailgruppe* mail_ = nullptr;  // where tournament results go
 };
 
 // Selects the entry holding `wert`; a value the list lacks gets an entry of its own,

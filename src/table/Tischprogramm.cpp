@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QRandomGenerator>
+#include <utility>
 
 #include "Dateiwahl.h"
 #include "Einstellform.h"
@@ -87,7 +88,9 @@ void Tischprogramm::EinstUebernehmen(const settings::Einstellungen& e, const Ben
     einstellungen_ = e;
     benutzer_ = b;
     steuerung_.setzeOptionen(anzeigeoptionen(e));
-    steuerung_.setzeTempo(tempoFuer(e.animation == 0 ? TempoAus : b.tempo));
+    // The pace is taken over when its setting changed, so a pace set from outside (tests) stays.
+    const int tempo = e.animation == 0 ? TempoAus : b.tempo;
+    if (std::exchange(tempostufe_, tempo) != tempo) steuerung_.setzeTempo(tempoFuer(tempo));
     steuerung_.setzeRegelOptionen(e.regeln);
     engine::ProSitz<std::string> namen;
     engine::ProSitz<int> charaktere;

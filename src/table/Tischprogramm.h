@@ -82,6 +82,7 @@ private:
     settings::Einstellungen einstellungen_;
     Benutzereinstellungen benutzer_;
     std::unique_ptr<Lernhilfen> lernhilfen_;
+    int tempostufe_ = -1;  // the "Tempo" last taken over
     bool manuellErlaubt_ = true;
 };
 

@@ -10,6 +10,7 @@
 #include "Kartenuebersicht.h"
 #include "Lerntexte.h"
 #include "Qtext.h"
+#include "Spielpause.h"
 #include "Spielverlaufdialog.h"
 #include "Tischansicht.h"
 #include "Tischsteuerung.h"
@@ -20,25 +21,13 @@ namespace table {
 
 namespace {
 const QString OffeneKartenSchluessel = QStringLiteral("AlleKartenZeigen");
-
-// The game waits while a dialog of ours is open.
-class Halt {
-public:
-    explicit Halt(Tischsteuerung& s) : s_(s) { s_.dialogOffen(true); }
-    ~Halt() { s_.dialogOffen(false); }
-    Halt(const Halt&) = delete;
-    Halt& operator=(const Halt&) = delete;
-
-private:
-    Tischsteuerung& s_;
-};
 }  // namespace
 
 Lernhilfen::Lernhilfen(Hauptfenster& hfo, Tischsteuerung& steuerung, settings::Benutzerspeicher& speicher,
                        Statistikspeicher statistik, QObject* parent)
     : QObject(parent), hfo_(hfo), steuerung_(steuerung), speicher_(speicher), statistik_(std::move(statistik)) {
     connect(hfo_.spielverlaufAktion(), &QAction::triggered, this, [this] {
-        Halt halt(steuerung_);
+        Pause pause(steuerung_);
         spielverlaufZeigen(&hfo_);
     });
     connect(hfo_.statistikAktion(), &QAction::triggered, this, &Lernhilfen::statistikZeigen);
@@ -74,7 +63,7 @@ void Lernhilfen::spielverlaufZeigen(QWidget* eltern) {
 }
 
 void Lernhilfen::statistikZeigen() {
-    Halt halt(steuerung_);
+    Pause pause(steuerung_);
     Partieverlauf laufend;
     laufend.namen = steuerung_.spiel().namen;
     laufend.staende = aufsummiert(steuerung_.spielzettelZeilen());
@@ -86,7 +75,7 @@ void Lernhilfen::statistikSchreiben(const Statistik& statistik) {
     if (statistik_.speichern(statistik)) return;
     // Reported from the event loop, not from inside the game step that recorded it.
     QTimer::singleShot(0, this, [this] {
-        Halt halt(steuerung_);
+        Pause pause(steuerung_);
         QMessageBox::critical(&hfo_, t(lerntext::StatistikTitel), t(lerntext::NichtGeschrieben) + statistik_.pfad());
     });
 }

@@ -14,6 +14,7 @@
 #include "Lernhilfen.h"
 #include "Qtext.h"
 #include "Regelseite.h"
+#include "Spielpause.h"
 #include "Stichbetrachter.h"
 #include "Tempostufen.h"
 #include "Tischsteuerung.h"
@@ -44,18 +45,6 @@ void melden(QWidget* eltern, const savegame::Meldung& m) {
         }
     }
 }
-
-// The program's own dialogs hold the game until they are closed.
-class Pause {
-public:
-    explicit Pause(Tischsteuerung& s) : s_(s) { s_.dialogOffen(true); }
-    ~Pause() { s_.dialogOffen(false); }
-    Pause(const Pause&) = delete;
-    Pause& operator=(const Pause&) = delete;
-
-private:
-    Tischsteuerung& s_;
-};
 
 }  // namespace
 

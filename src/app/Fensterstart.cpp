@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <iostream>
 
+#include "Installation.h"
 #include "Oberflaeche.h"
 #include "foyer/Foyerprogramm.h"
 #include "net/Namen.h"
@@ -69,7 +70,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     };
     QObject::connect(&programm, &table::Tischprogramm::einstellungenUebernommen, klangEinstellen);
     programm.EinstUebernehmen(einstellungen, programm.benutzer());
-    klangspieler.soundOeffnen(QCoreApplication::applicationDirPath().toStdString());
+    klangspieler.soundOeffnen(klangordner(QCoreApplication::applicationDirPath()).toStdString());
     steuerung.ablauf().beobachterHinzufuegen(&klaenge);
     QObject::connect(&steuerung, &table::Tischsteuerung::menschAmZug, [&] { klaenge.duBistDran(); });
     QObject::connect(&steuerung, &table::Tischsteuerung::supersauGemeldet, [&] { klaenge.supersau(); });

@@ -9,6 +9,7 @@
 #include <QStyle>
 
 #include "Kartenbilder.h"
+#include "Lerntexte.h"
 #include "Qtext.h"
 #include "Tischansicht.h"
 #include "Tischtexte.h"
@@ -54,6 +55,9 @@ void Hauptfenster::menuesAnlegen() {
     speichern_ = aktion(spiel, t(savegame::texte::MenueSpeichern), "m_partie_speichern");
     speichern_->setShortcut(QKeySequence::Save);
     spiel->addSeparator();
+    spielverlauf_ = aktion(spiel, t(lerntext::SpielverlaufMenue), "m_spielverlauf");
+    statistik_ = aktion(spiel, t(lerntext::StatistikMenue), "m_statistik");
+    spiel->addSeparator();
     einstellungen_ = aktion(spiel, t(texte::EinstellungenMenue), "m_einstellungen");
     foyer_ = aktion(spiel, t(texte::FoyerMenue), "m_foyer");
     netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "m_netzprotokoll");
@@ -78,9 +82,12 @@ void Hauptfenster::menuesAnlegen() {
     letzterStich_ = aktion(ansicht, t(texte::LetzterStich), "m_letzter_stich");
     alleStiche_ = aktion(ansicht, t(texte::AlleStiche), "m_alle_stiche");
     spielzettel_ = aktion(ansicht, t(texte::Spielzettel), "m_spielzettel");
+    gespielteKarten_ = aktion(ansicht, t(lerntext::GespielteKartenMenue), "m_gespielte_karten");
     ansicht->addSeparator();
     msgboxen_ = aktion(ansicht, t(texte::MsgboxenZeigen), "m_msgboxen_zeigen");
     msgboxen_->setCheckable(true);
+    alleKarten_ = aktion(ansicht, t(lerntext::AlleKartenZeigen), "m_alle_karten");
+    alleKarten_->setCheckable(true);
     ansicht->addSeparator();
     vollbild_ = aktion(ansicht, t(texte::VollbildMenue), "m_vollbild");
     vollbild_->setCheckable(true);

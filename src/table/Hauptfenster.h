@@ -47,6 +47,11 @@ public:
     QAction* turnierpartieAktion() const { return turnierpartie_; }
     QAction* ergebnisseAktion() const { return ergebnisse_; }
     QMenu* spielMenue() const { return spielMenue_; }
+    // The learning aids: review, statistics, open hands, cards played.
+    QAction* spielverlaufAktion() const { return spielverlauf_; }
+    QAction* statistikAktion() const { return statistik_; }
+    QAction* alleKartenAktion() const { return alleKarten_; }
+    QAction* gespielteKartenAktion() const { return gespielteKarten_; }
     // Network play is later work.
     QAction* netzprotokollAktion() const { return netzprotokoll_; }
 
@@ -116,6 +121,10 @@ private:
     QAction* ergebnisse_ = nullptr;
     std::function<void()> vorDemBeenden_;
     QMenu* spielMenue_ = nullptr;
+    QAction* spielverlauf_ = nullptr;
+    QAction* statistik_ = nullptr;
+    QAction* alleKarten_ = nullptr;
+    QAction* gespielteKarten_ = nullptr;
     bool partieUnterwegs_ = false;
     bool beendenBestaetigt_ = false;
 };

@@ -59,6 +59,7 @@ void Hauptfenster::menuesAnlegen() {
     statistik_ = aktion(spiel, t(lerntext::StatistikMenue), "m_statistik");
     spiel->addSeparator();
     einstellungen_ = aktion(spiel, t(texte::EinstellungenMenue), "m_einstellungen");
+    foyer_ = aktion(spiel, t(texte::FoyerMenue), "m_foyer");
     netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "m_netzprotokoll");
     netzprotokoll_->setEnabled(false);  // network play is later work
     spiel->addSeparator();

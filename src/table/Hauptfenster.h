@@ -40,6 +40,8 @@ public:
     QAction* ladenAktion() const { return laden_; }
     QAction* speichernAktion() const { return speichern_; }
     QAction* einstellungenAktion() const { return einstellungen_; }
+    // "Internet-Foyer...": whoever runs the foyer connects to it.
+    QAction* foyerAktion() const { return foyer_; }
     QAction* vollbildAktion() const { return vollbild_; }
     QAction* regelnAktion() const { return regeln_; }
     QAction* turnierpartieAktion() const { return turnierpartie_; }
@@ -111,6 +113,7 @@ private:
     QAction* laden_ = nullptr;
     QAction* speichern_ = nullptr;
     QAction* einstellungen_ = nullptr;
+    QAction* foyer_ = nullptr;
     QAction* netzprotokoll_ = nullptr;
     QAction* vollbild_ = nullptr;
     QAction* regeln_ = nullptr;

@@ -53,6 +53,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     table::Dateidialoge dateidialoge;
     table::Tischprogramm programm(hfo, steuerung, speicher, dateidialoge, settings::optionsdateiPfad());
     programm.setzeLesekontext(kontext);
+    programm.setzeSicherungsdatei(table::Tischprogramm::standardSicherungsdatei());
 
     sound::QtKlanggeraet geraet;
     sound::Klangspieler klangspieler(geraet);

@@ -3,6 +3,7 @@
 // logic; the controller feeds it and listens to its signals.
 #include <QMainWindow>
 #include <array>
+#include <functional>
 #include <memory>
 
 #include "engine/Ansagen.h"
@@ -57,6 +58,8 @@ public:
     int msgBoxModus() const;
     // Whether "&Neue Partie" has to ask before it throws the running Partie away.
     void setzePartieUnterwegs(bool unterwegs) { partieUnterwegs_ = unterwegs; }
+    // Asked before the program ends ("&Ende" or closing the window); false keeps it open.
+    void setzeBeendenPruefung(std::function<bool()> pruefung) { beendenPruefung_ = std::move(pruefung); }
 
 signals:
     void neuePartieGewuenscht();
@@ -67,6 +70,8 @@ signals:
     void alleSticheGewuenscht();
     void spielzettelGewuenscht();
     void beendenGewuenscht();
+    // A question of the window is open (true) or closed again: the game waits meanwhile.
+    void frageOffen(bool offen);
 
 public slots:
     // "&Neue Partie": asks before a running Partie is abandoned.
@@ -101,7 +106,7 @@ private:
     QAction* regeln_ = nullptr;
     QMenu* spielMenue_ = nullptr;
     bool partieUnterwegs_ = false;
-    bool beendenBestaetigt_ = false;
+    std::function<bool()> beendenPruefung_;
 };
 
 }  // namespace table

@@ -21,6 +21,7 @@ Spielzettel::Spielzettel(QWidget* parent) : QWidget(parent) {
     tabelle_->setColumnCount(ErsteSitzspalte + 4);
     tabelle_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tabelle_->setWordWrap(false);
+    tabelle_->setSelectionMode(QAbstractItemView::NoSelection);
     tabelle_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     tabelle_->horizontalHeader()->setSectionResizeMode(4, QHeaderView::Stretch);
     spalte->addWidget(tabelle_);

@@ -42,7 +42,14 @@ public:
     QAction* einstellungenAktion() const { return einstellungen_; }
     QAction* vollbildAktion() const { return vollbild_; }
     QAction* regelnAktion() const { return regeln_; }
+    QAction* turnierpartieAktion() const { return turnierpartie_; }
+    QAction* ergebnisseAktion() const { return ergebnisse_; }
     QMenu* spielMenue() const { return spielMenue_; }
+    // The learning aids: review, statistics, open hands, cards played.
+    QAction* spielverlaufAktion() const { return spielverlauf_; }
+    QAction* statistikAktion() const { return statistik_; }
+    QAction* alleKartenAktion() const { return alleKarten_; }
+    QAction* gespielteKartenAktion() const { return gespielteKarten_; }
     // Network play is later work.
     QAction* netzprotokollAktion() const { return netzprotokoll_; }
 
@@ -60,8 +67,14 @@ public:
     void setzePartieUnterwegs(bool unterwegs) { partieUnterwegs_ = unterwegs; }
     // Asked before the program ends ("&Ende" or closing the window); false keeps it open.
     void setzeBeendenPruefung(std::function<bool()> pruefung) { beendenPruefung_ = std::move(pruefung); }
+    // Runs once when the program is about to end, before anything is written back
+    // (the question about unsent tournament results).
+    void setzeVorDemBeenden(std::function<void()> pruefung) { vorDemBeenden_ = std::move(pruefung); }
 
 signals:
+    // "&Neue Partie" was confirmed; sent just before neuePartieGewuenscht, so a
+    // tournament Partie can give its rules back before the first deal.
+    void neuePartieBestaetigt();
     void neuePartieGewuenscht();
     void automatikGewuenscht();
     void reKontraGewuenscht();
@@ -84,6 +97,7 @@ protected:
 
 private:
     void menuesAnlegen();
+    void beendenPruefen();
 
     std::unique_ptr<Kartenbilder> bilder_;
     Tischansicht* tisch_ = nullptr;
@@ -104,7 +118,14 @@ private:
     QAction* netzprotokoll_ = nullptr;
     QAction* vollbild_ = nullptr;
     QAction* regeln_ = nullptr;
+    QAction* turnierpartie_ = nullptr;
+    QAction* ergebnisse_ = nullptr;
+    std::function<void()> vorDemBeenden_;
     QMenu* spielMenue_ = nullptr;
+    QAction* spielverlauf_ = nullptr;
+    QAction* statistik_ = nullptr;
+    QAction* alleKarten_ = nullptr;
+    QAction* gespielteKarten_ = nullptr;
     bool partieUnterwegs_ = false;
     std::function<bool()> beendenPruefung_;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QAction>
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QTimer>
@@ -62,10 +63,11 @@ bool Tischsteuerung::menschGefragt(const Anfrage& a) const {
 }
 
 Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent)
-    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &begruendungen_) {
+    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &protokoll_) {
     for (const Sitz s : engine::alleSitze) spiel_.namen[s] = "Spieler" + std::to_string(s.nr());
     ablauf_.meldungenAn(this);
     ablauf_.beobachterHinzufuegen(&wissen_);
+    ablauf_.beobachterHinzufuegen(&protokoll_);
     wissen_.msgBoxModus = hfo_.msgBoxModus();
     connect(hfo_.msgboxenAktion(), &QAction::toggled, this, [this] {
         wissen_.msgBoxModus = hfo_.msgBoxModus();
@@ -102,6 +104,11 @@ void Tischsteuerung::setzeOptionen(const Anzeigeoptionen& optionen) {
     ablauf_.kartenbildFranzoesisch(engine::franzoesischeBilder(optionen.kartenbild));
 }
 
+void Tischsteuerung::setzeTempo(Tempo tempo) {
+    tempo_ = tempo;
+    hfo_.tisch().setzeBewegungsdauer(tempo.flug, tempo.einsammeln);
+}
+
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
 
 void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
@@ -121,7 +128,7 @@ void Tischsteuerung::setzeEntscheider(Sitz sitz, std::shared_ptr<engine::Entsche
 }
 
 void Tischsteuerung::spielerPassend() {
-    players::Spielerumgebung umgebung{wissen_, *zufall_, &begruendungen_};
+    players::Spielerumgebung umgebung{wissen_, *zufall_, &protokoll_};
     for (const Sitz s : engine::alleSitze) {
         if (vorgegeben_[s] || (entscheider_[s] && gebaut_[s] == spiel_.charakter[s])) continue;
         entscheider_[s] = players::spielerErzeugen(spielerartFuer(spiel_.charakter[s]), umgebung);
@@ -150,6 +157,7 @@ void Tischsteuerung::neuePartie() {
     zeilen_.clear();
     angaben_.clear();
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     hfo_.partieendeAnzeigen(false);
     ablauf_.neuePartie();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -159,6 +167,7 @@ void Tischsteuerung::neuePartie() {
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
+    protokoll_.vergessen();
     spiel_ = stand;
     hfo_.tisch().bewegungAbbrechen();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -183,6 +192,7 @@ void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
     if (spiel_.regeln.abrOption == 2)
         for (int i = 0; i < gespielt; ++i) zeilen_.push_back(spiel_.partie.spieltabelle[static_cast<std::size_t>(i)]);
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     ablauf_.geladenesSpielFortsetzen();
     wissen_.nachvollziehen(spiel_);
     hfo_.partieendeAnzeigen(spiel_.ablauf.phase == engine::Spielphase::Partieende);
@@ -458,6 +468,7 @@ void Tischsteuerung::spielendeZeigen() {
     angaben_.resize(zeilen_.size() - 1);
     angaben_.push_back(spielangaben(spiel_, engine::franzoesischeBilder(optionen_.kartenbild)));
     letztesSpiel_ = spiel_;
+    letzteBegruendungen_ = protokoll_.spiel();
     Spielergebnis r;
     r.titel = texte::SpielendeTitel;
     r.text = e.text;
@@ -466,8 +477,14 @@ void Tischsteuerung::spielendeZeigen() {
     r.summen = spiel_.partie.punkte;
     modal([&] {
         Spielendedialog box(r, &hfo_);
-        // Automatic play lets the result be read, then goes on by itself.
-        if (spiel_.automatik) QTimer::singleShot(3 * tempo_.stich, &box, &QDialog::accept);
+        // Automatic play lets the result be read, then goes on by itself, unless the
+        // person opened something from the box meanwhile.
+        QTimer schliessen;
+        connect(&schliessen, &QTimer::timeout, &box, [&box] {
+            if (QApplication::activeModalWidget() == &box) box.accept();
+        });
+        if (spiel_.automatik) schliessen.start(tempo_.spielende);
+        if (verlaufZeigen_) box.verlaufAnbieten([this, &box] { verlaufZeigen_(&box); });
         box.exec();
     });
 }

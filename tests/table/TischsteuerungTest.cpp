@@ -209,7 +209,7 @@ TEST_F(TischsteuerungTest, GanzesSpielMitGeklicktenKartenVonSitz1) {
 // messages pass in the status line and the end box closes by itself.
 TEST_F(TischsteuerungTest, AutomatikWartetAufKeineBox) {
     pumpe_.stop();
-    steuerung_.setzeTempo({0, 20});  // the end box stays 60 ms
+    steuerung_.setzeTempo({0, 0, 0, 0, 60});  // the end box stays 60 ms
     QStringList gesehen;
     QWidget* offen = nullptr;
     QTimer zuschauer;

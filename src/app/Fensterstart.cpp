@@ -59,6 +59,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     table::Dateidialoge dateidialoge;
     table::Tischprogramm programm(hfo, steuerung, speicher, dateidialoge, settings::optionsdateiPfad());
     programm.setzeLesekontext(kontext);
+    programm.setzeSicherungsdatei(table::Tischprogramm::standardSicherungsdatei());
     table::Turnierpartie turnier(hfo, steuerung, programm, services::ergebnisordner());
 
     sound::QtKlanggeraet geraet;

@@ -67,6 +67,8 @@ public:
     int msgBoxModus() const;
     // Whether "&Neue Partie" has to ask before it throws the running Partie away.
     void setzePartieUnterwegs(bool unterwegs) { partieUnterwegs_ = unterwegs; }
+    // Asked before the program ends ("&Ende" or closing the window); false keeps it open.
+    void setzeBeendenPruefung(std::function<bool()> pruefung) { beendenPruefung_ = std::move(pruefung); }
     // Runs once when the program is about to end, before anything is written back
     // (the question about unsent tournament results).
     void setzeVorDemBeenden(std::function<void()> pruefung) { vorDemBeenden_ = std::move(pruefung); }
@@ -83,6 +85,8 @@ signals:
     void alleSticheGewuenscht();
     void spielzettelGewuenscht();
     void beendenGewuenscht();
+    // A question of the window is open (true) or closed again: the game waits meanwhile.
+    void frageOffen(bool offen);
 
 public slots:
     // "&Neue Partie": asks before a running Partie is abandoned.
@@ -126,7 +130,7 @@ private:
     QAction* alleKarten_ = nullptr;
     QAction* gespielteKarten_ = nullptr;
     bool partieUnterwegs_ = false;
-    bool beendenBestaetigt_ = false;
+    std::function<bool()> beendenPruefung_;
 };
 
 }  // namespace table

@@ -1,0 +1,13 @@
+#pragma once
+// The rule book as it played before its whole following rule book: the player kind
+// "regelwerk1", kept for measuring (tournaments against it), not offered at the table.
+// Leads, reservations and announcements are the rule book's own; the follow
+// procedures are a frozen copy (Regelwerk1Folgen.cpp).
+#include "Lage.h"
+
+namespace players::regelwerk1 {
+
+// The frozen follow dispatcher; never 0.
+int bedienenWaehlen(const Lage& lage);
+
+}  // namespace players::regelwerk1

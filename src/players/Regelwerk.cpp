@@ -36,6 +36,7 @@ int Regelwerk::karteWaehlen(const Spiel& spiel, Sitz sitz) {
         melder.rueckfall("Regelwerk");
         karte = rueckfallKarte(lage);
     }
+    if (lage.neueZufallszahl) wissen_.zufallszahl = *lage.neueZufallszahl;
     return karte;
 }
 

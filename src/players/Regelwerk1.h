@@ -10,4 +10,11 @@ namespace players::regelwerk1 {
 // The frozen follow dispatcher; never 0.
 int bedienenWaehlen(const Lage& lage);
 
+// The frozen filters it uses (Regelwerk1Filter.cpp).
+int dolleBeimUebernehmen(const Lage& lage, int karte);
+int freispielenFilter(const Lage& lage, int karte);
+int fuchsKarlchenDolleFilter(const Lage& lage, int karte);
+int dolleNagelnFilter(const Lage& lage, int karte);
+int herzFilter(const Lage& lage, int karte);
+
 }  // namespace players::regelwerk1

@@ -1,63 +1,18 @@
 // The follow procedures of the rule book as they stood before the whole following
 // rule book was written, frozen for measuring (player kind "regelwerk1"): the
-// dispatcher, the four rule tables and their helpers. Do not improve anything here:
-// every change moves the baseline the rule book is measured against.
+// dispatcher, the four rule tables and their helpers; the filters are in
+// Regelwerk1Filter.cpp. Do not improve anything here: every change moves the
+// baseline the rule book is measured against.
 #include <array>
 #include <utility>
 
-#include "Regelwerk1.h"
+#include "Regelwerk1Hilfen.h"
 #include "Texte.h"
 #include "Verfahren.h"
 
 namespace players::regelwerk1 {
 
 using namespace engine;
-
-namespace hilfe {
-
-// The discard choices as table entries.
-inline int kleinste(const Lage& l) { return l.kleinsteAbwurf(); }
-inline int hoechste(const Lage& l) { return l.hoechsteAbwurf(); }
-
-inline bool wFreund(const Lage& l) { return l.gewinner && l.freund(*l.gewinner); }
-inline bool wFeind(const Lage& l) { return l.gewinner && !l.freund(*l.gewinner); }
-inline int gewinnerStaerke(const Lage& l) { return l.karte(l.gewinnerKarte).staerke; }
-inline bool hoehererTrumpfDraussen(const Lage& l) { return l.hoehereDraussen(l.trumpf, gewinnerStaerke(l)); }
-inline bool hatFarbkarte(const Lage& l) {
-    for (int p : l.erlaubt)
-        if (!l.istTrumpf(p)) return true;
-    return false;
-}
-// A trump that takes the trick and brings Augen home: the trump suit's As or Zehn.
-inline int werthoherSchlagenderTrumpf(const Lage& l) {
-    int beste = 0;
-    for (int p : l.erlaubt)
-        if (l.istTrumpf(p) && l.schlaegt(p) && l.istZaehler(p) && !l.istFigur(p) && !l.istDolle(p) && !l.istSchwein(p) &&
-            (beste == 0 || l.augen(p) > l.augen(beste)))
-            beste = p;
-    return beste;
-}
-// Cheapest legal card (by strength, then Augen) among those passing `passt`.
-template <class F>
-int billigste(const Lage& l, F passt) {
-    int beste = 0;
-    for (int p : l.erlaubt)
-        if (passt(p) && (beste == 0 || std::make_pair(l.staerke(p), l.augen(p)) <
-                                           std::make_pair(l.staerke(beste), l.augen(beste))))
-            beste = p;
-    return beste;
-}
-// The own card of most Augen that leaves the trick to its present winner.
-template <class F>
-int hoheNichtSchlagende(const Lage& l, F passt) {
-    int beste = 0;
-    for (int p : l.erlaubt)
-        if (passt(p) && !l.schlaegt(p) && (beste == 0 || l.augen(p) > l.augen(beste))) beste = p;
-    return beste;
-}
-
-}  // namespace hilfe
-
 using namespace hilfe;
 
 namespace farbe {
@@ -134,7 +89,7 @@ bool immer(const Lage&) { return true; }
 int zufaellig(const Lage& l) { return l.zufaellige(l.erlaubt); }
 int wertkleinster(const Lage& l) { return l.praktWertkleinsterTrumpf(); }
 int werthoechster(const Lage& l) { return l.praktWerthoechsterTrumpf(); }
-int geradeSoHoeher(const Lage& l) { return dolleBeimUebernehmen(l, l.kleinsterSchlagender()); }
+int geradeSoHoeher(const Lage& l) { return regelwerk1::dolleBeimUebernehmen(l, l.kleinsterSchlagender()); }
 int werthoherSchlagender(const Lage& l) {
     const int k = werthoherSchlagenderTrumpf(l);
     return k != 0 ? k : geradeSoHoeher(l);
@@ -262,7 +217,7 @@ const std::array<Regel, 15> hinterhand{{
     {"HH33", text::SoaHH33, [](const Lage& l) { return wFeind(l) && !l.gestochen && billigerTrumpf(l) != 0; },
      billigerTrumpf},
     {"HH36", text::SoaHH36, [](const Lage& l) { return wFeind(l) && l.gestochen && l.kannSchlagen(); },
-     [](const Lage& l) { return dolleBeimUebernehmen(l, l.kleinsterSchlagender()); }},
+     [](const Lage& l) { return regelwerk1::dolleBeimUebernehmen(l, l.kleinsterSchlagender()); }},
     {"HH38", text::SoaHH38, [](const Lage& l) { return wFeind(l) && hatFarbkarte(l); }, kleinste},
     {"HH39", text::SoaHH39, [](const Lage& l) { return wFeind(l) && l.nurTrumpf(); }, wertkleinster},
     {"HH10", text::SoaHH10,
@@ -319,10 +274,10 @@ int stechenOderAbwerfen(const Lage& lage) {
     int karte = regelnAnwenden(stechenRegeln(lage.anzahl), lage, verfahren::Stechen);
     if (karte == 0) return 0;
     karte = zaehlerRetten(lage, karte);
-    karte = freispielenFilter(lage, karte);
-    karte = dolleNagelnFilter(lage, karte);
-    karte = fuchsKarlchenDolleFilter(lage, karte);
-    return herzFilter(lage, karte);
+    karte = regelwerk1::freispielenFilter(lage, karte);
+    karte = regelwerk1::dolleNagelnFilter(lage, karte);
+    karte = regelwerk1::fuchsKarlchenDolleFilter(lage, karte);
+    return regelwerk1::herzFilter(lage, karte);
 }
 
 }  // namespace stechen

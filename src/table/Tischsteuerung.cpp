@@ -61,10 +61,11 @@ bool Tischsteuerung::menschGefragt(const Anfrage& a) const {
 }
 
 Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent)
-    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &begruendungen_) {
+    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &protokoll_) {
     for (const Sitz s : engine::alleSitze) spiel_.namen[s] = "Spieler" + std::to_string(s.nr());
     ablauf_.meldungenAn(this);
     ablauf_.beobachterHinzufuegen(&wissen_);
+    ablauf_.beobachterHinzufuegen(&protokoll_);
     wissen_.msgBoxModus = hfo_.msgBoxModus();
     connect(hfo_.msgboxenAktion(), &QAction::toggled, this, [this] {
         wissen_.msgBoxModus = hfo_.msgBoxModus();
@@ -100,6 +101,11 @@ void Tischsteuerung::setzeOptionen(const Anzeigeoptionen& optionen) {
     ablauf_.kartenbildFranzoesisch(engine::franzoesischeBilder(optionen.kartenbild));
 }
 
+void Tischsteuerung::setzeTempo(Tempo tempo) {
+    tempo_ = tempo;
+    hfo_.tisch().setzeBewegungsdauer(tempo.flug, tempo.einsammeln);
+}
+
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
 
 void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
@@ -119,7 +125,7 @@ void Tischsteuerung::setzeEntscheider(Sitz sitz, std::shared_ptr<engine::Entsche
 }
 
 void Tischsteuerung::spielerPassend() {
-    players::Spielerumgebung umgebung{wissen_, *zufall_, &begruendungen_};
+    players::Spielerumgebung umgebung{wissen_, *zufall_, &protokoll_};
     for (const Sitz s : engine::alleSitze) {
         if (vorgegeben_[s] || (entscheider_[s] && gebaut_[s] == spiel_.charakter[s])) continue;
         entscheider_[s] = players::spielerErzeugen(spielerartFuer(spiel_.charakter[s]), umgebung);
@@ -146,6 +152,7 @@ void Tischsteuerung::neuePartie() {
     ablaufZuruecksetzen();
     zeilen_.clear();
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     hfo_.partieendeAnzeigen(false);
     ablauf_.neuePartie();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -155,6 +162,7 @@ void Tischsteuerung::neuePartie() {
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
+    protokoll_.vergessen();
     spiel_ = stand;
     hfo_.tisch().bewegungAbbrechen();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -178,6 +186,7 @@ void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
     if (spiel_.regeln.abrOption == 2)
         for (int i = 0; i < gespielt; ++i) zeilen_.push_back(spiel_.partie.spieltabelle[static_cast<std::size_t>(i)]);
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     ablauf_.geladenesSpielFortsetzen();
     wissen_.nachvollziehen(spiel_);
     hfo_.partieendeAnzeigen(spiel_.ablauf.phase == engine::Spielphase::Partieende);
@@ -432,6 +441,7 @@ void Tischsteuerung::spielendeZeigen() {
     const engine::Spielergebnis& e = spiel_.ergebnis;
     zeilen_.push_back(e.punkte);
     letztesSpiel_ = spiel_;
+    letzteBegruendungen_ = protokoll_.spiel();
     Spielergebnis r;
     r.titel = texte::SpielendeTitel;
     r.text = e.text;
@@ -440,6 +450,7 @@ void Tischsteuerung::spielendeZeigen() {
     r.summen = spiel_.partie.punkte;
     modal([&] {
         Spielendedialog box(r, &hfo_);
+        if (verlaufZeigen_) box.verlaufAnbieten([this, &box] { verlaufZeigen_(&box); });
         box.exec();
     });
 }

@@ -12,6 +12,7 @@ inline constexpr char MenuSpiel[] = "&Spiel";
 inline constexpr char NeuePartie[] = "&Neue Partie";
 inline constexpr char EinstellungenMenue[] = "&Einstellungen...";
 inline constexpr char NetzprotokollZeigen[] = "&Netzprotokoll zeigen";
+inline constexpr char FoyerMenue[] = "Internet-&Foyer...";
 inline constexpr char Ende[] = "&Ende";
 inline constexpr char MenuAnsagen[] = "A&nsagen";
 inline constexpr char MenuAnsicht[] = "&Ansicht";

@@ -94,6 +94,11 @@ int netzHostStarten(const Aufruf& aufruf, int& argc, char** argv) {
         std::cerr << "trumpona: --host --auto braucht --games N\n";
         return 2;
     }
+    QCoreApplication anwendung(argc, argv);
+    return netzHostSpielen(aufruf, {});
+}
+
+int netzHostSpielen(const Aufruf& aufruf, const std::function<void(net::Gastgeber&)>& offen) {
     const std::string hostname = aufruf.name.empty() ? "Gastgeber" : aufruf.name;
     if (const auto fehler = net::namePruefen(hostname)) {
         std::cerr << *fehler << "\n";
@@ -102,7 +107,6 @@ int netzHostStarten(const Aufruf& aufruf, int& argc, char** argv) {
     std::uint64_t seed = 1;
     std::optional<settings::Einstellungen> optionen;
     if (!laufVorbereiten(aufruf, seed, optionen)) return 2;
-    QCoreApplication anwendung(argc, argv);
     Hosttisch tisch(aufruf, seed, optionen);
     tisch.host.setzeHost(QString::fromStdString(hostname), 1);
     if (!tisch.host.lauschen(static_cast<quint16>(aufruf.port.value_or(StandardPort)))) {
@@ -111,6 +115,7 @@ int netzHostStarten(const Aufruf& aufruf, int& argc, char** argv) {
     }
     // One write, so a script that waits for the line never reads half of it.
     std::cerr << ("Tisch offen auf Port " + std::to_string(tisch.host.port()) + "\n") << std::flush;
+    if (offen) offen(tisch.host);
     return mitJsonAusgabe(aufruf.jsonDatei, [&](std::ostream* json, std::ostream& bogen) {
         return hostLaufen(tisch, aufruf, seed, json, bogen);
     });

@@ -4,7 +4,9 @@
 
 #include "Autoplay.h"
 #include "PartieFortsetzen.h"
+#include "Ergebnisupload.h"
 #include "Fensterstart.h"
+#include "Foyerlauf.h"
 #include "Kommandozeile.h"
 #include "Netzlauf.h"
 #include "Screenshot.h"
@@ -36,6 +38,8 @@ int main(int argc, char** argv) {
         case app::Modus::Turnier: return app::turnierStarten(aufruf);
         case app::Modus::Host: return app::netzHostStarten(aufruf, argc, argv);
         case app::Modus::Join: return app::netzGastStarten(aufruf, argc, argv);
+        case app::Modus::Foyer: return app::foyerStarten(aufruf, argc, argv);
+        case app::Modus::Ergebnisse: return app::ergebnisseSenden(aufruf, argc, argv);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

@@ -21,6 +21,8 @@
 #include "table/Tischprogramm.h"
 #include "table/Tischsteuerung.h"
 #include "table/Tischtexte.h"
+#include "table/Turnierpartie.h"
+#include "services/Ergebnisablage.h"
 
 namespace app {
 
@@ -53,6 +55,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     table::Dateidialoge dateidialoge;
     table::Tischprogramm programm(hfo, steuerung, speicher, dateidialoge, settings::optionsdateiPfad());
     programm.setzeLesekontext(kontext);
+    table::Turnierpartie turnier(hfo, steuerung, programm, services::ergebnisordner());
 
     sound::QtKlanggeraet geraet;
     sound::Klangspieler klangspieler(geraet);

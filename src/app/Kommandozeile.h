@@ -7,7 +7,7 @@
 
 namespace app {
 
-enum class Modus { Spiel, Hilfe, Version, Autoplay, Turnier, Screenshot, Host, Join };
+enum class Modus { Spiel, Hilfe, Version, Autoplay, Turnier, Screenshot, Host, Join, Ergebnisse };
 
 struct Aufruf {
     Modus modus = Modus::Spiel;
@@ -26,6 +26,11 @@ struct Aufruf {
     int spiele = 0;                    // --games N
     int gaeste = 0;                    // --guests K
     std::optional<int> takt;           // --tick MS: the network pump interval
+    std::string ergebnisOrdner;        // --upload-results --dir DIR
+    std::string smtpHost;              // --smtp HOST[:PORT]
+    int smtpPort = 0;                  //   0: the configured port
+    std::string absender;              // --from ADDR
+    std::string empfaenger;            // --to ADDR
 };
 
 struct Auswertung {

@@ -4,6 +4,7 @@
 
 #include "Autoplay.h"
 #include "PartieFortsetzen.h"
+#include "Ergebnisupload.h"
 #include "Fensterstart.h"
 #include "Kommandozeile.h"
 #include "Netzlauf.h"
@@ -36,6 +37,7 @@ int main(int argc, char** argv) {
         case app::Modus::Turnier: return app::turnierStarten(aufruf);
         case app::Modus::Host: return app::netzHostStarten(aufruf, argc, argv);
         case app::Modus::Join: return app::netzGastStarten(aufruf, argc, argv);
+        case app::Modus::Ergebnisse: return app::ergebnisseSenden(aufruf, argc, argv);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

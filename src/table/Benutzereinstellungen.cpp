@@ -20,6 +20,7 @@ Benutzereinstellungen benutzereinstellungenLesen(const settings::Benutzerspeiche
     b.ircPort = s.zahl(QStringLiteral("IRCPort"));
     b.ircRaum = s.text(QStringLiteral("IRCRaum"));
     b.manuelleVerteilung = s.vorhanden(ManuelleVerteilung) && s.wahr(ManuelleVerteilung);
+    b.mail = services::mailkontoLesen(s);
     return b;
 }
 
@@ -36,6 +37,7 @@ void benutzereinstellungenSchreiben(settings::Benutzerspeicher& s, const Benutze
     s.setzeText(QStringLiteral("IRCServer"), b.ircServer);
     s.setzeText(QStringLiteral("IRCRaum"), b.ircRaum);
     s.setzeWahr(QStringLiteral("IPErfragen"), b.ipErfragen);
+    services::mailkontoSchreiben(s, b.mail);
     s.synchronisieren();
 }
 

@@ -23,6 +23,7 @@
 #include "Einstellelemente.h"
 #include "Einstelltexte.h"
 #include "Kartenmaler.h"
+#include "Mailgruppe.h"
 #include "Qtext.h"
 #include "Spielercharakter.h"
 #include "engine/Regeln.h"
@@ -455,7 +456,12 @@ QWidget* Einstellform::netzwerkSeite() {
     ircRaum_ = new QLineEdit(foyer);
     ircRaum_->setObjectName(QStringLiteral("IRCRaum"));
     fform->addRow(t(IrcRaum), ircRaum_);
-    spalte->addWidget(foyer);
+    // The foyer and the result mail side by side, so the tab fits a small screen.
+    auto* internet = new QHBoxLayout;
+    internet->addWidget(foyer, 1);
+    mail_ = new Mailgruppe(seite);
+    internet->addWidget(mail_, 1);
+    spalte->addLayout(internet);
     // Numbers need no full line.
     for (QSpinBox* zahl : {serverport_, netztempo_, ircPort_}) zahl->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     spalte->addStretch();
@@ -517,6 +523,7 @@ Benutzereinstellungen Einstellform::benutzer() const {
     b.ircPort = ircPort_->value();
     b.ircRaum = ircRaum_->text();
     b.manuelleVerteilung = manuelleVerteilung_->isChecked();
+    b.mail = mail_->konto();
     return b;
 }
 
@@ -537,6 +544,7 @@ void Einstellform::setzeBenutzer(const Benutzereinstellungen& b) {
     ircPort_->setValue(b.ircPort);
     ircRaum_->setText(b.ircRaum);
     manuelleVerteilung_->setChecked(b.manuelleVerteilung);
+    mail_->setzeKonto(b.mail);
 }
 
 bool Einstellform::speichern() const { return speichernJn_->isChecked(); }

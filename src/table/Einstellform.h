@@ -27,6 +27,7 @@ namespace table {
 
 class Dateiwahl;
 class Kartenvorschau;
+class Mailgruppe;
 class Wahlgruppe;
 
 struct Einstellumgebung {
@@ -112,6 +113,7 @@ private:
     QSpinBox* ircPort_ = nullptr;
     QSpinBox* netztempo_ = nullptr;
     QComboBox* verbindungsart_ = nullptr;
+    Mailgruppe* mail_ = nullptr;  // where tournament results go
 };
 
 // Selects the entry holding `wert`; a value the list lacks gets an entry of its own,

@@ -12,6 +12,7 @@
 #include "Qtext.h"
 #include "Tischansicht.h"
 #include "Tischtexte.h"
+#include "Turniertexte.h"
 #include "engine/Spielablauf.h"
 #include "savegame/Partietexte.h"
 
@@ -45,6 +46,8 @@ void Hauptfenster::menuesAnlegen() {
     spielMenue_ = spiel;
     neuePartie_ = aktion(spiel, t(texte::NeuePartie), "m_neue_partie");
     neuePartie_->setShortcut(QKeySequence(Qt::Key_F2));
+    turnierpartie_ = aktion(spiel, t(turniertext::TurnierpartieMenue), "m_turnierpartie");
+    ergebnisse_ = aktion(spiel, t(turniertext::ErgebnisseMenue), "m_turnierergebnisse");
     spiel->addSeparator();
     laden_ = aktion(spiel, t(savegame::texte::MenueLaden), "m_partie_laden");
     laden_->setShortcut(QKeySequence::Open);
@@ -141,17 +144,29 @@ void Hauptfenster::m_neue_partie_click() {
         QMessageBox::question(this, windowTitle(), t(engine::ablauftext::PartieAbbrechen), QMessageBox::Yes | QMessageBox::No) !=
             QMessageBox::Yes)
         return;
+    emit neuePartieBestaetigt();
     emit neuePartieGewuenscht();
 }
 
+void Hauptfenster::beendenPruefen() {
+    if (!vorDemBeenden_) return;
+    const auto pruefung = std::move(vorDemBeenden_);
+    vorDemBeenden_ = nullptr;
+    pruefung();
+}
+
 void Hauptfenster::SubPrgBeenden() {
+    beendenPruefen();
     beendenBestaetigt_ = true;
     emit beendenGewuenscht();
     close();
 }
 
 void Hauptfenster::closeEvent(QCloseEvent* event) {
-    if (!beendenBestaetigt_) emit beendenGewuenscht();
+    if (!beendenBestaetigt_) {
+        beendenPruefen();
+        emit beendenGewuenscht();
+    }
     event->accept();
 }
 

@@ -209,6 +209,7 @@ void Tischprogramm::partieLaden(const QString& pfad) {
             }
         }
     }
+    if (weiter != savegame::Weiter::LaufendesSpiel) emit partieGeladen();
     switch (weiter) {
         case savegame::Weiter::LaufendesSpiel: return;
         case savegame::Weiter::NeuePartie: steuerung_.neuePartie(); return;
@@ -222,7 +223,7 @@ void Tischprogramm::partieLaden(const QString& pfad) {
 }
 
 std::optional<engine::Kartenverteilung> Tischprogramm::kartenGeben(const engine::Spiel& spiel) {
-    if (!benutzer_.manuelleVerteilung) return std::nullopt;
+    if (!benutzer_.manuelleVerteilung || !manuellErlaubt_) return std::nullopt;
     QMessageBox frage(QMessageBox::Question, QString::fromUtf8(texte::Fenstertitel),
                       t(engine::ablauftext::ManuelleVerteilung), QMessageBox::Yes | QMessageBox::No, &hfo_);
     frage.setDefaultButton(QMessageBox::No);

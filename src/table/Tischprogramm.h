@@ -42,6 +42,9 @@ public:
     // The window as the options want it: full screen or with its own frame.
     void fensterZeigen();
 
+    // Whether "Manuelle Kartenverteilung?" may be asked (not in a tournament Partie).
+    void setzeManuellesGebenErlaubt(bool erlaubt) { manuellErlaubt_ = erlaubt; }
+
     // The state a saved file gets (also for tests).
     savegame::Spielstand spielstand() const;
 
@@ -50,6 +53,8 @@ signals:
     void einstellungenUebernommen(const settings::Einstellungen& e);
     // The settings were reset: the program ends without writing anything back.
     void programmEndeVerlangt();
+    // A saved Partie replaces the running one (or a new one begins after it).
+    void partieGeladen();
 
 public slots:
     void willkommen_zeigen();
@@ -72,6 +77,7 @@ private:
     settings::Lesekontext kontext_;
     settings::Einstellungen einstellungen_;
     Benutzereinstellungen benutzer_;
+    bool manuellErlaubt_ = true;
 };
 
 }  // namespace table

@@ -5,45 +5,19 @@
 
 #include "Computertisch.h"
 #include "Netzlauf.h"
-#include "engine/Stichspiel.h"
 #include "engine/Zufall.h"
-#include "net/Gast.h"
+#include "net/Automatiktisch.h"
 #include "net/Namen.h"
 #include "net/Netztexte.h"
 
 namespace app {
 
-using engine::Antwort;
 using engine::Sitz;
 
 namespace {
 
 constexpr int StandardPort = 7001;
 constexpr int StandardTakt = 10;
-
-// Answers the host's question to seat 1 as the rule book decides.
-void computerAntwortet(net::Gast& gast, const engine::Spielablauf& ablauf, engine::Entscheider& e) {
-    const net::Gastkern* kern = gast.kern();
-    if (!kern) return;
-    const engine::Spiel& spiel = ablauf.spiel();
-    const Sitz ich(1);
-    switch (kern->offeneFrage()) {
-        case net::Gastfrage::Keine: return;
-        case net::Gastfrage::Neugeben: gast.antworten(Antwort::neugeben(ablauf.anfrage().neugeben.computerWuerde)); return;
-        case net::Gastfrage::Vorbehalt:
-            if (gast.antworten(Antwort::mitVorbehalt(e.vorbehaltWaehlen(spiel, ich)))) return;
-            // A refused wish: what the cycle does for a computer seat (a duty solo becomes a Karo-Solo).
-            if (!gast.antworten(Antwort::mitVorbehalt({engine::Vorbehalt::Solo, engine::Normalspiel, 0})))
-                gast.antworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
-            return;
-        case net::Gastfrage::Karte:
-            if (ablauf.ansageMoeglich(ich))
-                if (const auto ansage = e.ansageWaehlen(spiel, ich)) gast.ansagen(*ansage);
-            if (!gast.antworten(Antwort::karte(e.karteWaehlen(spiel, ich))))
-                gast.antworten(Antwort::karte(engine::ersteErlaubteKarte(spiel, ich)));
-            return;
-    }
-}
 
 }  // namespace
 
@@ -102,14 +76,13 @@ int netzGastStarten(const Aufruf& aufruf, int& argc, char** argv) {
         status = s;
         QCoreApplication::quit();
     };
-    QObject::connect(&gast, &net::Gast::gefragt, &gast, [&] { computerAntwortet(gast, ablauf, ich); },
-                     Qt::QueuedConnection);
+    net::automatischSpielen(gast, ablauf, ich);
     QObject::connect(&gast, &net::Gast::abweichung, &gast,
                      [](const QString& text) { std::cerr << "Abweichung: " << text.toStdString() << "\n"; });
     QObject::connect(&gast, &net::Gast::nameVergeben, &gast, [&](const QString& text) {
         std::cerr << text.toStdString() << "\n";
-        gast.verlassen();
         ende(2);
+        gast.verlassen();
     });
     QObject::connect(&gast, &net::Gast::punkteErhalten, &gast, [&] {
         if (aufruf.spiele > 0 && gast.kern()->spieleBeendet() >= aufruf.spiele) gast.verlassen();

@@ -9,7 +9,7 @@
 #include "Spielliste.h"
 #include "engine/Schiedsrichter.h"
 #include "engine/Zufall.h"
-#include "net/Gastgeber.h"
+#include "net/Automatiktisch.h"
 #include "net/Namen.h"
 #include "net/Tischautomat.h"
 
@@ -61,35 +61,17 @@ int hostLaufen(Hosttisch& t, const Aufruf& aufruf, std::uint64_t seed, std::ostr
         liste.spielGewertet(s);
         return ++gespielt < aufruf.spiele;
     };
-    t.automat.vorNeuerPartie = [&] { t.host.neuePartieMelden(); };
 
-    bool gestartet = false;
-    bool fertig = false;
-    std::function<void()> weiter = [&] {
-        if (fertig) return;
-        if (!gestartet) {
-            if (t.host.kern().angemeldeteGaeste() < aufruf.gaeste || !t.host.kern().alleBereit()) return;
-            gestartet = true;
-            t.ablauf.neuePartie();
-        }
-        switch (t.automat.laufen(2000)) {
-            case net::Tischautomat::Halt::Person: t.host.anfrageStellen(); break;
-            case net::Tischautomat::Halt::Schritte: QTimer::singleShot(0, &t.host, weiter); break;
-            case net::Tischautomat::Halt::Spielende:
-                fertig = true;
-                t.host.beenden();
-                QTimer::singleShot(SchliessenMs, QCoreApplication::instance(), &QCoreApplication::quit);
-                break;
-        }
-    };
-    QObject::connect(&t.host, &net::Gastgeber::bereitGeaendert, &t.host, [&] { weiter(); }, Qt::QueuedConnection);
-    QObject::connect(&t.host, &net::Gastgeber::weiter, &t.host, [&] { weiter(); });
-    // Without a person to ask, a guest that stops answering loses its seat to the computer.
-    QObject::connect(&t.host, &net::Gastgeber::abmeldefrage, &t.host,
-                     [&](int sitz, const QString&) { t.host.abmeldefrageBeantworten(sitz, true); });
+    net::Automatiktisch automatik(t.host, t.ablauf, t.automat, aufruf.gaeste);
+    QObject::connect(&automatik, &net::Automatiktisch::fertig, &t.host, [&] {
+        t.host.beenden();
+        QTimer::singleShot(SchliessenMs, QCoreApplication::instance(), &QCoreApplication::quit);
+    });
     QObject::connect(&t.host, &net::Gastgeber::verbindungenGeschlossen, QCoreApplication::instance(),
                      &QCoreApplication::quit);
-    QTimer::singleShot(0, &t.host, weiter);
+    // Without a person to ask, a guest that stops answering loses its seat to the computer.
+    QObject::connect(&t.host, &net::Gastgeber::abmeldefrage, &t.host,
+                     [&](int sitz) { t.host.abmeldefrageBeantworten(sitz, true); });
     QCoreApplication::exec();
 
     liste.schreiben(bogen, t.spiel, aufruf.spiele, seed);

@@ -35,6 +35,7 @@ public:
 
     // The core, for what the game needs to know (open question, host totals, log).
     const Gastkern* kern() const { return kern_.get(); }
+    Gastkern* kern() { return kern_.get(); }
 
 signals:
     void verbunden();

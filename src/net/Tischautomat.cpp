@@ -1,5 +1,6 @@
 #include "Tischautomat.h"
 
+#include "Gastkern.h"
 #include "engine/Stichspiel.h"
 
 namespace net {
@@ -56,6 +57,27 @@ Tischautomat::Halt Tischautomat::laufen(int maxSchritte) {
         }
     }
     return Halt::Schritte;
+}
+
+void gastfrageBeantworten(Gastkern& gast, const engine::Spielablauf& ablauf, engine::Entscheider& spieler) {
+    const engine::Spiel& spiel = ablauf.spiel();
+    const engine::Sitz ich(1);
+    switch (gast.offeneFrage()) {
+        case Gastfrage::Keine: return;
+        case Gastfrage::Neugeben: gast.antworten(Antwort::neugeben(ablauf.anfrage().neugeben.computerWuerde)); return;
+        case Gastfrage::Vorbehalt:
+            if (gast.antworten(Antwort::mitVorbehalt(spieler.vorbehaltWaehlen(spiel, ich)))) return;
+            // A duty solo that the player did not name becomes a Karo-Solo.
+            if (!gast.antworten(Antwort::mitVorbehalt({engine::Vorbehalt::Solo, engine::Normalspiel, 0})))
+                gast.antworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
+            return;
+        case Gastfrage::Karte:
+            if (ablauf.ansageMoeglich(ich))
+                if (const auto ansage = spieler.ansageWaehlen(spiel, ich)) gast.ansagen(*ansage);
+            if (!gast.antworten(Antwort::karte(spieler.karteWaehlen(spiel, ich))))
+                gast.antworten(Antwort::karte(engine::ersteErlaubteKarte(spiel, ich)));
+            return;
+    }
 }
 
 }  // namespace net

@@ -11,6 +11,8 @@
 
 namespace net {
 
+class Gastkern;
+
 class Tischautomat {
 public:
     Tischautomat(engine::Spielablauf& ablauf, const engine::ProSitz<engine::Entscheider*>& entscheider)
@@ -36,5 +38,10 @@ private:
     long gemeldet_ = -1;  // Partie and game of the last game shown to nachSpiel
     int abgelehnt_ = 0;
 };
+
+// A guest played by the computer: answers the host's open question to seat 1 as
+// the seat's player decides (a refused wish falls back as the cycle does for a
+// computer seat). Nothing happens while no question is open.
+void gastfrageBeantworten(Gastkern& gast, const engine::Spielablauf& ablauf, engine::Entscheider& spieler);
 
 }  // namespace net

@@ -11,6 +11,7 @@
 #include "Dialogtexte.h"
 #include "Hauptfenster.h"
 #include "Meldungsdialog.h"
+#include "Netzanbindung.h"
 #include "Qtext.h"
 #include "Spielendedialog.h"
 #include "Stichbetrachter.h"
@@ -44,11 +45,15 @@ std::vector<int> codesVon(const engine::Spiel& spiel, const std::vector<int>& po
 
 template <class F>
 auto Tischsteuerung::modal(F&& zeigen) {
-    imDialog_ = true;
+    ++dialoge_;
+    netzBeschaeftigtMelden();
     struct Ende {
-        bool& offen;
-        ~Ende() { offen = false; }
-    } ende{imDialog_};
+        Tischsteuerung& s;
+        ~Ende() {
+            --s.dialoge_;
+            s.netzBeschaeftigtMelden();
+        }
+    } ende{*this};
     return zeigen();
 }
 
@@ -65,6 +70,7 @@ Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufall
     for (const Sitz s : engine::alleSitze) spiel_.namen[s] = "Spieler" + std::to_string(s.nr());
     ablauf_.meldungenAn(this);
     ablauf_.beobachterHinzufuegen(&wissen_);
+    ablauf_.beobachterHinzufuegen(this);
     wissen_.msgBoxModus = hfo_.msgBoxModus();
     connect(hfo_.msgboxenAktion(), &QAction::toggled, this, [this] {
         wissen_.msgBoxModus = hfo_.msgBoxModus();
@@ -103,6 +109,7 @@ void Tischsteuerung::setzeOptionen(const Anzeigeoptionen& optionen) {
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
 
 void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
+    if (netz_) return;  // at a network table the names are the players' own
     spiel_.namen = namen;
     hfo_.tisch().update();
 }
@@ -140,6 +147,7 @@ void Tischsteuerung::ablaufZuruecksetzen() {
     partieendeGemeldet_ = false;
     zugGemeldet_ = -1;
     meldungen_.clear();
+    fremdeKarten_.clear();
 }
 
 void Tischsteuerung::neuePartie() {
@@ -189,8 +197,53 @@ void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
 }
 
 void Tischsteuerung::dialogOffen(bool offen) {
-    imDialog_ = offen;
+    dialoge_ = std::max(0, dialoge_ + (offen ? 1 : -1));
+    netzBeschaeftigtMelden();
     if (!offen) weiter();
+}
+
+void Tischsteuerung::netzAnbinden(Netzanbindung* netz) {
+    netz_ = netz;
+    ablaufZuruecksetzen();
+    begruendungen_.verwerfen();
+    zeilen_.clear();
+    letztesSpiel_ = engine::Spiel{};
+    spiel_.automatik = false;
+    spiel_.steuerung = engine::Spiel::standardSteuerung();
+    hfo_.tisch().bewegungAbbrechen();
+    hfo_.partieendeAnzeigen(false);
+    ablauf_.neuePartie();
+    hfo_.tisch().setzeStichSichtbar(true);
+    weiter();
+}
+
+void Tischsteuerung::netzBeschaeftigtMelden() {
+    if (!netz_) return;
+    netz_->anzeigeBeschaeftigt(beschaeftigt_ || imDialog() || !fremdeKarten_.empty() ||
+                               spiel_.ablauf.phase == engine::Spielphase::StichVoll);
+}
+
+void Tischsteuerung::karteGespielt(const engine::Spiel&, Sitz sitz, int pos) {
+    if (spiel_.steuerung[sitz] != Steuerung::Netz) return;
+    fremdeKarten_.emplace_back(pos, sitz);
+    netzBeschaeftigtMelden();
+}
+
+engine::Bescheid Tischsteuerung::beantworten(const Antwort& antwort) {
+    if (netz_)
+        if (const auto b = netz_->antworten(antwort)) return *b;
+    return ablauf_.antworten(antwort);
+}
+
+engine::Bescheid Tischsteuerung::ansagen(Sitz sitz, const engine::Ansage& ansage) {
+    if (netz_ && sitz == Sitz(1))
+        if (const auto b = netz_->ansagen(ansage)) return *b;
+    return ablauf_.ansagen(sitz, ansage);
+}
+
+int Tischsteuerung::gelegteKarte(Sitz sitz, int gewaehlt) const {
+    const int platz = spiel_.stich.platz[sitz];
+    return platz > 0 ? spiel_.stich.karte(platz) : gewaehlt;
 }
 
 bool Tischsteuerung::speicherbar() const {
@@ -206,7 +259,7 @@ void Tischsteuerung::planen(int ms, void (Tischsteuerung::*schritt)()) {
     QTimer::singleShot(ms, this, [this, nr, schritt] {
         if (nr != schritt_) return;  // a new Partie began meanwhile
         geplant_ = false;
-        if (imDialog_) return;       // planned again when the dialog closes
+        if (imDialog()) return;      // planned again when the dialog closes
         (this->*schritt)();
     });
 }
@@ -232,20 +285,35 @@ void Tischsteuerung::meldungenZeigen() {
 // One step of the game: show the state, then answer the open request or wait for
 // the person, a timer or an animation.
 void Tischsteuerung::weiter() {
-    if (beschaeftigt_ || imDialog_ || geplant_) return;
+    netzBeschaeftigtMelden();
+    if (beschaeftigt_ || imDialog() || geplant_) return;
+    if (!fremdeKarten_.empty()) {
+        const auto [pos, sitz] = fremdeKarten_.front();
+        fremdeKarten_.erase(fremdeKarten_.begin());
+        karteGelegt(pos, sitz);
+        return;
+    }
     meldungenZeigen();
     begruendungenZeigen();
     const Anfrage a = ablauf_.anfrage();
     anzeigen(a);
     const bool mensch = menschGefragt(a);
+    const bool entscheidung = a.art == Anfrageart::Neugeben || a.art == Anfrageart::Vorbehalt || a.art == Anfrageart::Karte;
+    if (entscheidung && a.steuerung == Steuerung::Netz) {
+        if (netz_) netz_->anfrageAnNetz(a);
+        return;
+    }
+    // A guest's seat 1 decides once the host has asked.
+    if (entscheidung && a.sitz == Sitz(1) && netz_ && !netz_->darfAntworten()) return;
     switch (a.art) {
         case Anfrageart::Geben:
+            if (netz_ && !netz_->darfGeben()) return;
             geben();
             planen(0, &Tischsteuerung::weiter);
             return;
         case Anfrageart::Neugeben:
             if (mensch) neugebenBeantworten(a);
-            else ablauf_.antworten(Antwort::neugeben(a.neugeben.computerWuerde));
+            else beantworten(Antwort::neugeben(a.neugeben.computerWuerde));
             planen(0, &Tischsteuerung::weiter);
             return;
         case Anfrageart::Vorbehalt:
@@ -269,6 +337,7 @@ void Tischsteuerung::weiter() {
             if (optionen_.einsammeln == 0) planen(tempo_.stich, &Tischsteuerung::einsammeln);
             return;  // otherwise a click on the trick collects it
         case Anfrageart::NaechstesSpiel:
+            if (netz_ && !netz_->spielendeDa()) return;
             spielendeZeigen();
             ablauf_.antworten(Antwort::weiter(Anfrageart::NaechstesSpiel));
             emit spielGewertet();
@@ -317,10 +386,11 @@ void Tischsteuerung::anzeigen(const Anfrage& a) {
     Tischansicht& tisch = hfo_.tisch();
     QString status = t(a.status);
     if (a.art == Anfrageart::StichEinsammeln && optionen_.einsammeln != 0) status = QString::fromUtf8(texte::Einsammeln);
+    if (netz_) status = netz_->status(a, status);
     hfo_.statusSetzen(status);
     const bool karte = a.art == Anfrageart::Karte;
     tisch.setzeAmZug(karte ? a.sitz : std::nullopt);
-    tisch.setzeKartenwahl(karte && menschGefragt(a));
+    tisch.setzeKartenwahl(karte && menschGefragt(a) && (!netz_ || netz_->darfAntworten()));
     tisch.setzeParteibilder(parteibilder());
     tisch.neuZeichnen();
     hfo_.ansagemenueSetzen(ablauf_.menue(Sitz(1)));
@@ -337,7 +407,7 @@ void Tischsteuerung::neugebenBeantworten(const Anfrage& a) {
         return Meldungsdialog::fragen(hfo_.bilder(), &hfo_, t(engine::neugebenTitel(grund)), t(a.neugeben.frage),
                                       codesVon(spiel_, engine::gezeigteKarten(spiel_, *a.sitz, grund)));
     });
-    ablauf_.antworten(Antwort::neugeben(ja));
+    beantworten(Antwort::neugeben(ja));
 }
 
 void Tischsteuerung::vorbehaltBeantworten(const Anfrage& a) {
@@ -345,10 +415,10 @@ void Tischsteuerung::vorbehaltBeantworten(const Anfrage& a) {
     const bool mensch = menschGefragt(a);
     const engine::Vorbehalt v =
         mensch ? modal([&] { return vorbehaltFragen(a); }) : entscheider(s).vorbehaltWaehlen(spiel_, s);
-    const engine::Bescheid b = ablauf_.antworten(Antwort::mitVorbehalt(v));
+    const engine::Bescheid b = beantworten(Antwort::mitVorbehalt(v));
     if (b) return;
     if (mensch && !b.grund.empty()) hinweisen(t(texte::SoloTitel), b.grund);
-    ablauf_.antworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
+    beantworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
 }
 
 engine::Vorbehalt Tischsteuerung::vorbehaltFragen(const Anfrage& a) {
@@ -385,46 +455,50 @@ void Tischsteuerung::computerKarte() {
     if (a.art != Anfrageart::Karte || a.steuerung != Steuerung::Computer || beschaeftigt_) return weiter();
     const Sitz s = *a.sitz;
     engine::Entscheider& e = entscheider(s);
+    if (s == Sitz(1) && netz_ && !netz_->darfAntworten()) return weiter();
     if (ablauf_.ansageMoeglich(s))
-        if (const auto ansage = e.ansageWaehlen(spiel_, s)) ablauf_.ansagen(s, *ansage);
+        if (const auto ansage = e.ansageWaehlen(spiel_, s)) ansagen(s, *ansage);
     int pos = e.karteWaehlen(spiel_, s);
     // The reasons come before the card, and the card waits until every box is closed.
     begruendungenZeigen();
     if (ablauf_.offeneArt() != Anfrageart::Karte || ablauf_.sitzDerAnfrage() != s) return weiter();
-    if (!ablauf_.antworten(Antwort::karte(pos))) {
+    if (!beantworten(Antwort::karte(pos))) {
         pos = engine::ersteErlaubteKarte(spiel_, s);
-        ablauf_.antworten(Antwort::karte(pos));
+        beantworten(Antwort::karte(pos));
     }
-    karteGelegt(pos, s);
+    karteGelegt(gelegteKarte(s, pos), s);
 }
 
 void Tischsteuerung::karteGelegt(int pos, Sitz sitz) {
     beschaeftigt_ = true;
+    netzBeschaeftigtMelden();
     hfo_.tisch().setzeKartenwahl(false);
     hfo_.tisch().karteFliegen(pos, sitz);
 }
 
 void Tischsteuerung::karteGewaehlt(int pos) {
     const Anfrage a = ablauf_.anfrage();
-    if (a.art != Anfrageart::Karte || !menschGefragt(a) || beschaeftigt_ || imDialog_) return;
-    const engine::Bescheid b = ablauf_.antworten(Antwort::karte(pos));
+    if (a.art != Anfrageart::Karte || !menschGefragt(a) || beschaeftigt_ || imDialog()) return;
+    if (netz_ && !netz_->darfAntworten()) return;
+    const engine::Bescheid b = beantworten(Antwort::karte(pos));
     if (!b) {
         // The card stays in the hand; the person chooses again.
         hinweisen(t(texte::FalscheKarteTitel), b.grund);
         return;
     }
-    karteGelegt(pos, Sitz(1));
+    karteGelegt(gelegteKarte(Sitz(1), pos), Sitz(1));
 }
 
 void Tischsteuerung::einsammeln() {
     if (spiel_.ablauf.phase != engine::Spielphase::StichVoll || beschaeftigt_) return weiter();
     beschaeftigt_ = true;
     einsammelnLaeuft_ = true;
+    netzBeschaeftigtMelden();
     hfo_.tisch().stichEinsammeln(spiel_.stiche.back().gewinner);
 }
 
 void Tischsteuerung::stichGeklickt() {
-    if (ablauf_.anfrage().art != Anfrageart::StichEinsammeln || beschaeftigt_ || imDialog_ || geplant_) return;
+    if (ablauf_.anfrage().art != Anfrageart::StichEinsammeln || beschaeftigt_ || imDialog() || geplant_) return;
     einsammeln();
 }
 
@@ -450,9 +524,9 @@ void Tischsteuerung::ansageBescheid(const engine::Bescheid& b) {
     anzeigen(ablauf_.anfrage());
 }
 
-void Tischsteuerung::reKontra() { ansageBescheid(ablauf_.ansagen(Sitz(1), engine::Ansage{})); }
+void Tischsteuerung::reKontra() { ansageBescheid(ansagen(Sitz(1), engine::Ansage{})); }
 
-void Tischsteuerung::limit(int limitCode) { ansageBescheid(ablauf_.ansagen(Sitz(1), engine::Ansage{true, limitCode})); }
+void Tischsteuerung::limit(int limitCode) { ansageBescheid(ansagen(Sitz(1), engine::Ansage{true, limitCode})); }
 
 void Tischsteuerung::automatikUmschalten() {
     ablauf_.automatikUmschalten();

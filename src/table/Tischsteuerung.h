@@ -22,6 +22,7 @@
 namespace table {
 
 class Hauptfenster;
+class Netzanbindung;
 class Spielzettel;
 class Stichbetrachter;
 
@@ -31,7 +32,7 @@ struct Tempo {
     int stich = 1100;
 };
 
-class Tischsteuerung : public QObject, public engine::Meldungssenke {
+class Tischsteuerung : public QObject, public engine::Meldungssenke, public engine::Spielbeobachter {
     Q_OBJECT
 public:
     Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent = nullptr);
@@ -61,6 +62,14 @@ public:
     // Whether the state is one a saved game can hold (cards are being played, or the Partie is over).
     bool speicherbar() const;
 
+    // Plays at a network table from here on (nullptr: alone again). The table is
+    // cleared and waits for the network's first deal.
+    void netzAnbinden(Netzanbindung* netz);
+    Netzanbindung* netz() const { return netz_; }
+    // The game state, for the network table that keeps it in step (names, who
+    // plays each seat, the cards and decisions of the other machines).
+    engine::Spiel& spielFuerNetz() { return spiel_; }
+
     const engine::Spiel& spiel() const { return spiel_; }
     // The last scored game (its tricks stay viewable while the next one runs).
     const engine::Spiel& letztesSpiel() const { return letztesSpiel_; }
@@ -72,6 +81,8 @@ public:
     Spielzettelinhalt spielzettelInhalt() const;
 
     void meldung(const engine::Meldung& m) override;
+    // A card played at another machine flies in as a computer card does.
+    void karteGespielt(const engine::Spiel& spiel, engine::Sitz sitz, int pos) override;
 
 signals:
     // Seat 1 is to play a card (for the your-turn signal).
@@ -122,6 +133,13 @@ private:
     void spielendeZeigen();
     void sticheZeigen(const engine::Spiel& spiel, const std::vector<engine::StichProtokoll>& stiche);
     void ansageBescheid(const engine::Bescheid& b);
+    // Seat 1's decisions go to the network when it takes them, else to the cycle.
+    engine::Bescheid beantworten(const engine::Antwort& antwort);
+    engine::Bescheid ansagen(engine::Sitz sitz, const engine::Ansage& ansage);
+    // The position the cycle took for the seat's card (a guest plays the first of two equal cards).
+    int gelegteKarte(engine::Sitz sitz, int gewaehlt) const;
+    bool imDialog() const { return dialoge_ > 0; }
+    void netzBeschaeftigtMelden();
     engine::Entscheider& entscheider(engine::Sitz sitz);
 
     Hauptfenster& hfo_;
@@ -142,11 +160,13 @@ private:
     engine::Spiel letztesSpiel_;  // the last scored game, for its tricks
     bool geplant_ = false;        // a step is scheduled
     bool beschaeftigt_ = false;   // a card flies or a trick is being collected
-    bool imDialog_ = false;       // a modal dialog of ours is open
+    int dialoge_ = 0;             // modal dialogs of ours (or the program's) open
     bool einsammelnLaeuft_ = false;
     bool partieendeGemeldet_ = false;
     int zugGemeldet_ = -1;        // the card count at which seat 1's turn was last signalled
     int schritt_ = 0;             // counts Partien, so a timer of an abandoned one does nothing
+    Netzanbindung* netz_ = nullptr;
+    std::vector<std::pair<int, engine::Sitz>> fremdeKarten_;  // played at another machine, not yet shown
 };
 
 }  // namespace table

@@ -18,6 +18,7 @@
 #include "table/Dateiwahl.h"
 #include "table/Fensterplatz.h"
 #include "table/Hauptfenster.h"
+#include "table/Netzspiel.h"
 #include "table/Tischprogramm.h"
 #include "table/Tischsteuerung.h"
 #include "table/Tischtexte.h"
@@ -70,6 +71,9 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     steuerung.ablauf().beobachterHinzufuegen(&klaenge);
     QObject::connect(&steuerung, &table::Tischsteuerung::menschAmZug, [&] { klaenge.duBistDran(); });
     QObject::connect(&steuerung, &table::Tischsteuerung::supersauGemeldet, [&] { klaenge.supersau(); });
+    table::Netzspiel netz(hfo, steuerung, programm, speicher);
+    QObject::connect(&netz, &table::Netzspiel::spielerKommt, [&] { klaenge.spielerKommt(); });
+    QObject::connect(&netz, &table::Netzspiel::spielerGeht, [&] { klaenge.spielerGeht(); });
 
     hfo.setGeometry(
         table::fensterrahmen(speicher.hauptfenster(), schirm ? schirm->availableGeometry() : QRect(0, 0, 1024, 768)));
@@ -91,7 +95,12 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
         // For measuring the start: TRUMPONA_STARTZEIT prints when the table first stood.
         if (qEnvironmentVariableIsSet("TRUMPONA_STARTZEIT"))
             QTimer::singleShot(0, [&] { std::cerr << "Tisch sichtbar nach " << uhr.elapsed() << " ms\n"; });
-        programm.starten(ladeDatei);
+        // --host and --join open the window in that role; the name falls back to the last one used.
+        const QString name = aufruf.name.empty() ? speicher.text(QStringLiteral("StartNick")) : QString::fromStdString(aufruf.name);
+        bool amNetz = false;
+        if (aufruf.modus == Modus::Host) amNetz = netz.hostenMitName(name, aufruf.port);
+        else if (aufruf.modus == Modus::Join) amNetz = netz.beitretenMitAdresse(QString::fromStdString(aufruf.joinAdresse), name);
+        if (!amNetz) programm.starten(ladeDatei);
     });
     const int ergebnis = QApplication::exec();
     klangspieler.soundSchliessen();

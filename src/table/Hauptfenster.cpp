@@ -55,8 +55,8 @@ void Hauptfenster::menuesAnlegen() {
     speichern_->setShortcut(QKeySequence::Save);
     spiel->addSeparator();
     einstellungen_ = aktion(spiel, t(texte::EinstellungenMenue), "m_einstellungen");
-    netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "m_netzprotokoll");
-    netzprotokoll_->setEnabled(false);  // network play is later work
+    netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "mnuSendebuffer");
+    netzprotokoll_->setEnabled(false);  // at a network table only
     spiel->addSeparator();
     ende_ = aktion(spiel, t(texte::Ende), "m_ende");
     ende_->setShortcut(QKeySequence(Qt::ALT | Qt::Key_F4));

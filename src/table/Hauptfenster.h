@@ -45,7 +45,7 @@ public:
     QAction* turnierpartieAktion() const { return turnierpartie_; }
     QAction* ergebnisseAktion() const { return ergebnisse_; }
     QMenu* spielMenue() const { return spielMenue_; }
-    // Network play is later work.
+    // `mnuSendebuffer`: the protocol log of a network table.
     QAction* netzprotokollAktion() const { return netzprotokoll_; }
 
     void statusSetzen(const QString& text);

@@ -1,5 +1,6 @@
 #include "Fensterstart.h"
 
+#include <QAction>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QRandomGenerator>
@@ -7,7 +8,10 @@
 #include <QTimer>
 #include <iostream>
 
+#include "Installation.h"
 #include "Oberflaeche.h"
+#include "foyer/Foyerprogramm.h"
+#include "net/Namen.h"
 #include "engine/Kartentext.h"
 #include "settings/Benutzerspeicher.h"
 #include "settings/Optionsdatei.h"
@@ -56,6 +60,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     table::Dateidialoge dateidialoge;
     table::Tischprogramm programm(hfo, steuerung, speicher, dateidialoge, settings::optionsdateiPfad());
     programm.setzeLesekontext(kontext);
+    programm.setzeSicherungsdatei(table::Tischprogramm::standardSicherungsdatei());
     table::Turnierpartie turnier(hfo, steuerung, programm, services::ergebnisordner());
 
     sound::QtKlanggeraet geraet;
@@ -67,7 +72,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     };
     QObject::connect(&programm, &table::Tischprogramm::einstellungenUebernommen, klangEinstellen);
     programm.EinstUebernehmen(einstellungen, programm.benutzer());
-    klangspieler.soundOeffnen(QCoreApplication::applicationDirPath().toStdString());
+    klangspieler.soundOeffnen(klangordner(QCoreApplication::applicationDirPath()).toStdString());
     steuerung.ablauf().beobachterHinzufuegen(&klaenge);
     QObject::connect(&steuerung, &table::Tischsteuerung::menschAmZug, [&] { klaenge.duBistDran(); });
     QObject::connect(&steuerung, &table::Tischsteuerung::supersauGemeldet, [&] { klaenge.supersau(); });
@@ -90,6 +95,21 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
         speicher.synchronisieren();
     });
 
+    // The foyer opens from the game menu, and at once when the program was restarted into it.
+    std::unique_ptr<foyer::Foyerprogramm> foyerprogramm;
+    auto foyerOeffnen = [&] {
+        if (!foyerprogramm)
+            foyerprogramm = std::make_unique<foyer::Foyerprogramm>(speicher, [](const QString& name) {
+                const auto fehler = net::namePruefen(name.toStdString());
+                return fehler ? QString::fromStdString(*fehler) : QString();
+            });
+        foyerprogramm->oeffnen();
+    };
+    QObject::connect(hfo.foyerAktion(), &QAction::triggered, &hfo, foyerOeffnen);
+    // A guest whose table is lost may go back to the foyer: the program starts anew into it.
+    netz.setzeFoyerRueckkehr([&] { return foyer::insFoyerNeustarten(speicher); });
+    const bool insFoyer = speicher.restartUebernehmen();
+
     const QString ladeDatei = QString::fromStdString(aufruf.ladeDatei);
     QTimer::singleShot(0, &steuerung, [&] {
         // For measuring the start: TRUMPONA_STARTZEIT prints when the table first stood.
@@ -101,8 +121,10 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
         if (aufruf.modus == Modus::Host) amNetz = netz.hostenMitName(name, aufruf.port);
         else if (aufruf.modus == Modus::Join) amNetz = netz.beitretenMitAdresse(QString::fromStdString(aufruf.joinAdresse), name);
         if (!amNetz) programm.starten(ladeDatei);
+        if (insFoyer) foyerOeffnen();
     });
     const int ergebnis = QApplication::exec();
+    foyerprogramm.reset();
     klangspieler.soundSchliessen();
     return ergebnis;
 }

@@ -74,6 +74,11 @@ Auswertung kommandozeileAuswerten(const std::vector<std::string>& argumente) {
         } else if (arg == "--join") {
             a.modus = Modus::Join;
             if (!wert(a.joinAdresse)) return fehler("--join braucht eine Adresse");
+        } else if (arg == "--foyer") {
+            a.modus = Modus::Foyer;
+            if (!wert(a.foyerAdresse)) return fehler("--foyer braucht die Adresse des Chat-Servers");
+        } else if (arg == "--open-table" || arg == "--take-seat") {
+            a.foyerrolle = arg == "--open-table" ? Foyerrolle::TischEroeffnen : Foyerrolle::PlatzNehmen;
         } else if (arg == "--port") {
             int port = 0;
             if (!wert(text) || !zahlLesen(text, port) || port < 0 || port > 65535)
@@ -136,6 +141,9 @@ std::string hilfetext() {
            "                                        N Spiele, der Computer spielt die übrigen Plätze\n"
            "  trumpona --join HOST[:PORT] --name NAME --auto [--games N] [--tick MS]\n"
            "                                        ohne Fenster an einem Netzwerktisch Platz nehmen\n"
+           "  trumpona --foyer HOST[:PORT] --name NAME --auto (--open-table | --take-seat) [--games N]\n"
+           "                                        ohne Fenster im Internet-Foyer einen Tisch eröffnen\n"
+           "                                        oder am ersten freien Platz nehmen\n"
            "  trumpona --upload-results [--dir DIR] [--smtp HOST:PORT] [--from ADR] [--to ADR]\n"
            "                                        wartende Turnierergebnisse an die Turnierleitung mailen\n"
            "  trumpona --help | --version\n";

@@ -21,8 +21,8 @@ constexpr int StandardTakt = 10;
 
 }  // namespace
 
-bool adresseTeilen(const std::string& adresse, std::string& host, int& port) {
-    port = StandardPort;
+bool adresseTeilen(const std::string& adresse, std::string& host, int& port, int standardport) {
+    port = standardport;
     std::string rest;
     if (!adresse.empty() && adresse.front() == '[') {
         const auto zu = adresse.find(']');
@@ -50,15 +50,19 @@ int netzGastStarten(const Aufruf& aufruf, int& argc, char** argv) {
     }
     std::string host;
     int port = 0;
-    if (!adresseTeilen(aufruf.joinAdresse, host, port)) {
+    if (!adresseTeilen(aufruf.joinAdresse, host, port, StandardPort)) {
         std::cerr << net::texte::ServerFehlt << "\n";
         return 2;
     }
+    QCoreApplication anwendung(argc, argv);
+    return netzGastSpielen(aufruf, host, port, {});
+}
+
+int netzGastSpielen(const Aufruf& aufruf, const std::string& host, int port, const std::function<void(net::Gast&)>& dabei) {
     if (const auto fehler = net::namePruefen(aufruf.name)) {
         std::cerr << *fehler << "\n";
         return 2;
     }
-    QCoreApplication anwendung(argc, argv);
     engine::Spiel spiel;
     engine::SeedZufall zufall(aufruf.seed.value_or(std::random_device{}()));
     engine::Spielablauf ablauf(spiel, zufall);
@@ -106,6 +110,7 @@ int netzGastStarten(const Aufruf& aufruf, int& argc, char** argv) {
         std::cerr << net::texte::gastFehler(nummer, text.toStdString()) << "\n" << net::texte::TischinhaberWeg << "\n";
         ende(3);
     });
+    if (dabei) dabei(gast);
     gast.verbinden(QString::fromStdString(host), static_cast<quint16>(port), QString::fromStdString(aufruf.name));
     QCoreApplication::exec();
 

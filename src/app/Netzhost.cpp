@@ -63,12 +63,15 @@ int hostLaufen(Hosttisch& t, const Aufruf& aufruf, std::uint64_t seed, std::ostr
     };
 
     net::Automatiktisch automatik(t.host, t.ablauf, t.automat, aufruf.gaeste);
+    QObject::connect(&automatik, &net::Automatiktisch::begonnen, [] { std::cerr << "Die Partie beginnt" << std::endl; });
     QObject::connect(&automatik, &net::Automatiktisch::fertig, &t.host, [&] {
         t.host.beenden();
         QTimer::singleShot(SchliessenMs, QCoreApplication::instance(), &QCoreApplication::quit);
     });
     QObject::connect(&t.host, &net::Gastgeber::verbindungenGeschlossen, QCoreApplication::instance(),
                      &QCoreApplication::quit);
+    QObject::connect(&t.host, &net::Gastgeber::mitteilung, &t.host,
+                     [](bool, const QString& text) { std::cerr << text.toStdString() << std::endl; });
     // Without a person to ask, a guest that stops answering loses its seat to the computer.
     QObject::connect(&t.host, &net::Gastgeber::abmeldefrage, &t.host,
                      [&](int sitz) { t.host.abmeldefrageBeantworten(sitz, true); });
@@ -91,6 +94,11 @@ int netzHostStarten(const Aufruf& aufruf, int& argc, char** argv) {
         std::cerr << "trumpona: --host --auto braucht --games N\n";
         return 2;
     }
+    QCoreApplication anwendung(argc, argv);
+    return netzHostSpielen(aufruf, {});
+}
+
+int netzHostSpielen(const Aufruf& aufruf, const std::function<void(net::Gastgeber&)>& offen) {
     const std::string hostname = aufruf.name.empty() ? "Gastgeber" : aufruf.name;
     if (const auto fehler = net::namePruefen(hostname)) {
         std::cerr << *fehler << "\n";
@@ -99,14 +107,15 @@ int netzHostStarten(const Aufruf& aufruf, int& argc, char** argv) {
     std::uint64_t seed = 1;
     std::optional<settings::Einstellungen> optionen;
     if (!laufVorbereiten(aufruf, seed, optionen)) return 2;
-    QCoreApplication anwendung(argc, argv);
     Hosttisch tisch(aufruf, seed, optionen);
     tisch.host.setzeHost(QString::fromStdString(hostname), 1);
     if (!tisch.host.lauschen(static_cast<quint16>(aufruf.port.value_or(StandardPort)))) {
         std::cerr << tisch.host.fehler().toStdString() << "\n";
         return 2;
     }
-    std::cerr << "Tisch offen auf Port " << tisch.host.port() << std::endl;
+    // One write, so a script that waits for the line never reads half of it.
+    std::cerr << ("Tisch offen auf Port " + std::to_string(tisch.host.port()) + "\n") << std::flush;
+    if (offen) offen(tisch.host);
     return mitJsonAusgabe(aufruf.jsonDatei, [&](std::ostream* json, std::ostream& bogen) {
         return hostLaufen(tisch, aufruf, seed, json, bogen);
     });

@@ -6,6 +6,7 @@
 #include "PartieFortsetzen.h"
 #include "Ergebnisupload.h"
 #include "Fensterstart.h"
+#include "Foyerlauf.h"
 #include "Kommandozeile.h"
 #include "Netzlauf.h"
 #include "Screenshot.h"
@@ -40,6 +41,7 @@ int main(int argc, char** argv) {
             return aufruf.automatisch ? app::netzHostStarten(aufruf, argc, argv) : app::spielStarten(aufruf, argc, argv);
         case app::Modus::Join:
             return aufruf.automatisch ? app::netzGastStarten(aufruf, argc, argv) : app::spielStarten(aufruf, argc, argv);
+        case app::Modus::Foyer: return app::foyerStarten(aufruf, argc, argv);
         case app::Modus::Ergebnisse: return app::ergebnisseSenden(aufruf, argc, argv);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";

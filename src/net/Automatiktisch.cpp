@@ -19,6 +19,7 @@ void Automatiktisch::weiter() {
         if (host_.kern().angemeldeteGaeste() < gaeste_ || !host_.kern().alleBereit()) return;
         gestartet_ = true;
         ablauf_.neuePartie();
+        emit begonnen();
     }
     // A bounded run, so the pump and the sockets get their turn in between.
     switch (automat_.laufen(2000)) {

@@ -21,6 +21,7 @@ public:
     bool gestartet() const { return gestartet_; }
 
 signals:
+    void begonnen();
     void fertig();
 
 private:

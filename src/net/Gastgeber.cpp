@@ -51,7 +51,7 @@ Gastgeber::Gastgeber(engine::Spiel& spiel, engine::Spielablauf& ablauf, Netzzeit
         QTimer& frage = frage_[static_cast<std::size_t>(s)];
         frage.setSingleShot(true);
         frage.setInterval(zeiten_.abmeldefrage);
-        connect(&frage, &QTimer::timeout, this, [this, s] { emit abmeldefrage(s, q(texte::reagiertNicht(kern_.platz(Sitz(s)).gastname))); });
+        connect(&frage, &QTimer::timeout, this, [this, s] { emit abmeldefrage(s, q(texte::reagiertNicht(kern_.gastname(Sitz(s))))); });
     }
 }
 
@@ -66,7 +66,7 @@ Gastgeber::~Gastgeber() {
 
 void Gastgeber::setzeHost(const QString& name, int netztempo) { kern_.setzeHost(name.toStdString(), netztempo); }
 
-QString Gastgeber::name(int sitz) const { return q(kern_.platz(Sitz(sitz)).gastname); }
+QString Gastgeber::name(int sitz) const { return q(kern_.gastname(Sitz(sitz))); }
 
 bool Gastgeber::lauschen(quint16 port, const QString& adresse) {
     adresse_ = adresse.isEmpty() ? QHostAddress(QHostAddress::Any) : QHostAddress(adresse);
@@ -157,7 +157,7 @@ void Gastgeber::freigegeben(int sitz) {
 void Gastgeber::getrennt(QTcpSocket* socket) {
     const int s = sitzVon(socket);
     if (!s) return;
-    emit mitteilung(false, q(texte::getrenntVon(kern_.platz(Sitz(s)).gastname)));
+    emit mitteilung(false, q(texte::getrenntVon(kern_.gastname(Sitz(s)))));
     kern_.abmelden(Sitz(s));
 }
 
@@ -165,7 +165,7 @@ void Gastgeber::verbindungsfehler(QTcpSocket* socket) {
     const int s = sitzVon(socket);
     // A guest that closes its side is handled as it disconnects.
     if (!s || socket->error() == QAbstractSocket::RemoteHostClosedError) return;
-    const std::string name = kern_.platz(Sitz(s)).gastname;
+    const std::string name = kern_.gastname(Sitz(s));
     emit mitteilung(true, q(texte::netzwerkfehler(socket->error(), socket->errorString().toStdString())) + "\n" +
                               q(texte::rolleVon(name)));
     kern_.abmelden(Sitz(s));
@@ -175,7 +175,7 @@ void Gastgeber::abmelden(int sitz, bool hinweis) {
     if (sitz < 2 || sitz > 4) return;
     QTcpSocket* socket = sockets_[static_cast<std::size_t>(sitz)];
     if (hinweis && socket) {
-        const std::string name = kern_.platz(Sitz(sitz)).gastname;
+        const std::string name = kern_.gastname(Sitz(sitz));
         const bool vonDort = socket->state() == QAbstractSocket::ClosingState;
         emit mitteilung(false, q(vonDort ? texte::getrenntVon(name) : texte::getrenntZu(name)));
     }

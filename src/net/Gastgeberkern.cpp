@@ -38,6 +38,11 @@ void Gastgeberkern::setzeHost(const std::string& name, int netztempo) {
     spiel_.namen[Sitz(1)] = name;
 }
 
+const std::string& Gastgeberkern::gastname(Sitz sitz) const {
+    const std::string& name = platz(sitz).gastname;
+    return name.empty() ? spiel_.namen[sitz] : name;
+}
+
 int Gastgeberkern::spielerzahl() const {
     int n = 1;
     for (const Sitz s : Gastsitze) n += verbunden(s);

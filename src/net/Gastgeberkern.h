@@ -89,6 +89,8 @@ public:
     void chatSenden(std::string_view text);
 
     const Platz& platz(engine::Sitz sitz) const { return plaetze_[index(sitz)]; }
+    // The guest's name, or the seat's while the guest has given none.
+    const std::string& gastname(engine::Sitz sitz) const;
     int spielerzahl() const;
     // Every guest at the table has given its name and is ready.
     bool alleBereit() const;

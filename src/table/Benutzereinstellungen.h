@@ -22,6 +22,7 @@ struct Benutzereinstellungen {
     int ircPort = 6668;
     QString ircRaum;
     bool manuelleVerteilung = false;  // ask "Manuelle Kartenverteilung?" before each deal
+    int tempo = 2;                    // pace while "Animation" is on: 1 fast, 2 normal, 3 slow
     services::Mailkonto mail;         // where tournament results are mailed
     bool operator==(const Benutzereinstellungen&) const = default;
 };

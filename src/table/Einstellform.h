@@ -27,6 +27,7 @@ namespace table {
 
 class Dateiwahl;
 class Kartenvorschau;
+class Vorlagenwahl;
 class Mailgruppe;
 class Wahlgruppe;
 
@@ -101,6 +102,9 @@ private:
     QLabel* jokerHinweis_ = nullptr;
     QComboBox* vorhand_ = nullptr;
     Kartenvorschau* vorschau_ = nullptr;
+    Vorlagenwahl* vorlagen_ = nullptr;
+    QComboBox* tempo_ = nullptr;   // off, or the pace of the "Animation"
+    int tempoMitBewegung_ = 2;     // the pace kept while the movement is off
     QCheckBox* speichernJn_ = nullptr;
     // Network and foyer.
     QComboBox* netzadapter_ = nullptr;

@@ -9,6 +9,7 @@
 #include <QStyle>
 
 #include "Kartenbilder.h"
+#include "Lerntexte.h"
 #include "Qtext.h"
 #include "Tischansicht.h"
 #include "Tischtexte.h"
@@ -54,7 +55,11 @@ void Hauptfenster::menuesAnlegen() {
     speichern_ = aktion(spiel, t(savegame::texte::MenueSpeichern), "m_partie_speichern");
     speichern_->setShortcut(QKeySequence::Save);
     spiel->addSeparator();
+    spielverlauf_ = aktion(spiel, t(lerntext::SpielverlaufMenue), "m_spielverlauf");
+    statistik_ = aktion(spiel, t(lerntext::StatistikMenue), "m_statistik");
+    spiel->addSeparator();
     einstellungen_ = aktion(spiel, t(texte::EinstellungenMenue), "m_einstellungen");
+    foyer_ = aktion(spiel, t(texte::FoyerMenue), "m_foyer");
     netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "mnuSendebuffer");
     netzprotokoll_->setEnabled(false);  // at a network table only
     spiel->addSeparator();
@@ -77,9 +82,12 @@ void Hauptfenster::menuesAnlegen() {
     letzterStich_ = aktion(ansicht, t(texte::LetzterStich), "m_letzter_stich");
     alleStiche_ = aktion(ansicht, t(texte::AlleStiche), "m_alle_stiche");
     spielzettel_ = aktion(ansicht, t(texte::Spielzettel), "m_spielzettel");
+    gespielteKarten_ = aktion(ansicht, t(lerntext::GespielteKartenMenue), "m_gespielte_karten");
     ansicht->addSeparator();
     msgboxen_ = aktion(ansicht, t(texte::MsgboxenZeigen), "m_msgboxen_zeigen");
     msgboxen_->setCheckable(true);
+    alleKarten_ = aktion(ansicht, t(lerntext::AlleKartenZeigen), "m_alle_karten");
+    alleKarten_->setCheckable(true);
     ansicht->addSeparator();
     vollbild_ = aktion(ansicht, t(texte::VollbildMenue), "m_vollbild");
     vollbild_->setCheckable(true);
@@ -140,10 +148,18 @@ void Hauptfenster::automatikEintragZeigen(bool an) { automatik_->setVisible(an);
 int Hauptfenster::msgBoxModus() const { return msgboxen_->isChecked() ? 1 : 3; }
 
 void Hauptfenster::m_neue_partie_click() {
-    if (partieUnterwegs_ &&
-        QMessageBox::question(this, windowTitle(), t(engine::ablauftext::PartieAbbrechen), QMessageBox::Yes | QMessageBox::No) !=
-            QMessageBox::Yes)
-        return;
+    if (partieUnterwegs_) {
+        emit frageOffen(true);
+        QMessageBox frage(QMessageBox::Question, windowTitle(), t(engine::ablauftext::PartieAbbrechen),
+                          QMessageBox::Yes | QMessageBox::No, this);
+        // Only a deliberate Yes throws the Partie away: Enter (a key held from the last
+        // box, or pressed once too often) and Escape keep it.
+        frage.setDefaultButton(QMessageBox::No);
+        frage.setEscapeButton(QMessageBox::No);
+        const bool abbrechen = frage.exec() == QMessageBox::Yes;
+        emit frageOffen(false);
+        if (!abbrechen) return;
+    }
     emit neuePartieBestaetigt();
     emit neuePartieGewuenscht();
 }
@@ -155,18 +171,16 @@ void Hauptfenster::beendenPruefen() {
     pruefung();
 }
 
-void Hauptfenster::SubPrgBeenden() {
-    beendenPruefen();
-    beendenBestaetigt_ = true;
-    emit beendenGewuenscht();
-    close();
-}
+void Hauptfenster::SubPrgBeenden() { close(); }
 
+// "&Ende" and the window's close button both end here.
 void Hauptfenster::closeEvent(QCloseEvent* event) {
-    if (!beendenBestaetigt_) {
-        beendenPruefen();
-        emit beendenGewuenscht();
+    if (beendenPruefung_ && !beendenPruefung_()) {
+        event->ignore();
+        return;
     }
+    beendenPruefen();
+    emit beendenGewuenscht();
     event->accept();
 }
 

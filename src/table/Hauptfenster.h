@@ -40,11 +40,18 @@ public:
     QAction* ladenAktion() const { return laden_; }
     QAction* speichernAktion() const { return speichern_; }
     QAction* einstellungenAktion() const { return einstellungen_; }
+    // "Internet-Foyer...": whoever runs the foyer connects to it.
+    QAction* foyerAktion() const { return foyer_; }
     QAction* vollbildAktion() const { return vollbild_; }
     QAction* regelnAktion() const { return regeln_; }
     QAction* turnierpartieAktion() const { return turnierpartie_; }
     QAction* ergebnisseAktion() const { return ergebnisse_; }
     QMenu* spielMenue() const { return spielMenue_; }
+    // The learning aids: review, statistics, open hands, cards played.
+    QAction* spielverlaufAktion() const { return spielverlauf_; }
+    QAction* statistikAktion() const { return statistik_; }
+    QAction* alleKartenAktion() const { return alleKarten_; }
+    QAction* gespielteKartenAktion() const { return gespielteKarten_; }
     // `mnuSendebuffer`: the protocol log of a network table.
     QAction* netzprotokollAktion() const { return netzprotokoll_; }
 
@@ -60,6 +67,8 @@ public:
     int msgBoxModus() const;
     // Whether "&Neue Partie" has to ask before it throws the running Partie away.
     void setzePartieUnterwegs(bool unterwegs) { partieUnterwegs_ = unterwegs; }
+    // Asked before the program ends ("&Ende" or closing the window); false keeps it open.
+    void setzeBeendenPruefung(std::function<bool()> pruefung) { beendenPruefung_ = std::move(pruefung); }
     // Runs once when the program is about to end, before anything is written back
     // (the question about unsent tournament results).
     void setzeVorDemBeenden(std::function<void()> pruefung) { vorDemBeenden_ = std::move(pruefung); }
@@ -76,6 +85,8 @@ signals:
     void alleSticheGewuenscht();
     void spielzettelGewuenscht();
     void beendenGewuenscht();
+    // A question of the window is open (true) or closed again: the game waits meanwhile.
+    void frageOffen(bool offen);
 
 public slots:
     // "&Neue Partie": asks before a running Partie is abandoned.
@@ -106,6 +117,7 @@ private:
     QAction* laden_ = nullptr;
     QAction* speichern_ = nullptr;
     QAction* einstellungen_ = nullptr;
+    QAction* foyer_ = nullptr;
     QAction* netzprotokoll_ = nullptr;
     QAction* vollbild_ = nullptr;
     QAction* regeln_ = nullptr;
@@ -113,8 +125,12 @@ private:
     QAction* ergebnisse_ = nullptr;
     std::function<void()> vorDemBeenden_;
     QMenu* spielMenue_ = nullptr;
+    QAction* spielverlauf_ = nullptr;
+    QAction* statistik_ = nullptr;
+    QAction* alleKarten_ = nullptr;
+    QAction* gespielteKarten_ = nullptr;
     bool partieUnterwegs_ = false;
-    bool beendenBestaetigt_ = false;
+    std::function<bool()> beendenPruefung_;
 };
 
 }  // namespace table

@@ -15,6 +15,9 @@ public:
 
     // The host deals once the person started its Partie; a guest never: the host's deal arrives.
     virtual bool darfGeben() const = 0;
+    // Whether the Partie is this table's own: a guest's is the host's, so it is
+    // neither kept for the next start nor asked about when the program ends.
+    virtual bool eigenePartie() const { return true; }
     // A request for a seat played at another machine: the host asks that guest; a
     // guest waits for the host's report. Called again on every step while it is open.
     virtual void anfrageAnNetz(const engine::Anfrage&) {}

@@ -28,8 +28,8 @@ inline constexpr char ChatTitel[] = "Tischgespräch";
 inline constexpr char ChatHinweis[] = "Nachricht an den Tisch, mit der Eingabetaste senden";
 inline constexpr char ProtokollTitel[] = "Netzprotokoll";
 
-// When the foyer cannot be opened.
-inline constexpr char KeinFoyer[] =
-    "Das Internet-Foyer gibt es in dieser Version noch nicht. Sie spielen allein am Tisch weiter.";
+// When the program could not be started anew into the foyer.
+inline constexpr char KeinNeustart[] =
+    "Das Programm konnte nicht neu gestartet werden. Sie spielen allein am Tisch weiter.";
 
 }  // namespace table::netztext

@@ -28,6 +28,7 @@ public:
     const net::Protokoll* protokoll() const override;
 
     bool darfGeben() const override { return false; }
+    bool eigenePartie() const override { return false; }
     bool darfAntworten() const override;
     std::optional<engine::Bescheid> antworten(const engine::Antwort& antwort) override;
     std::optional<engine::Bescheid> ansagen(const engine::Ansage& ansage) override;

@@ -278,13 +278,13 @@ void Netzspiel::verloren(bool erreicht, int nummer, const QString& beschreibung)
         programmBeenden();
         return;
     }
-    if (foyerRueckkehr_ && foyerRueckkehr_()) {
-        programmBeenden();
-        return;
+    if (foyerRueckkehr_) {
+        if (foyerRueckkehr_()) return programmBeenden();
+    } else {
+        speicher_.restartVormerken();
+        speicher_.synchronisieren();
     }
-    speicher_.restartVormerken();
-    speicher_.synchronisieren();
-    QMessageBox::information(&hfo_, titel, t(netztext::KeinFoyer));
+    QMessageBox::information(&hfo_, titel, t(netztext::KeinNeustart));
     alleinSpielen();
 }
 

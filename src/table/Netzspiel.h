@@ -43,8 +43,9 @@ public:
 
     // Times of the table instead of the settings' (tests make them short).
     void setzeZeiten(const net::Netzzeiten& zeiten) { zeiten_ = zeiten; }
-    // How "Möchten Sie ins Foyer zurückkehren?" is carried out once the foyer
-    // exists: it restarts the program into it. Without it the table plays on alone.
+    // How Yes to "Möchten Sie ins Foyer zurückkehren?" is carried out: "Restart"
+    // is written and the program started anew (it then opens the foyer); true
+    // when it was, and this one ends. Without it only the marker is written.
     void setzeFoyerRueckkehr(std::function<bool()> rueckkehr) { foyerRueckkehr_ = std::move(rueckkehr); }
 
     // Opens the table; false, after a box, when the port cannot be opened.

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include <QAction>
+#include <QApplication>
+#include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -66,11 +68,12 @@ bool Tischsteuerung::menschGefragt(const Anfrage& a) const {
 }
 
 Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent)
-    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &begruendungen_) {
+    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &protokoll_) {
     for (const Sitz s : engine::alleSitze) spiel_.namen[s] = "Spieler" + std::to_string(s.nr());
     ablauf_.meldungenAn(this);
     ablauf_.beobachterHinzufuegen(&wissen_);
     ablauf_.beobachterHinzufuegen(this);
+    ablauf_.beobachterHinzufuegen(&protokoll_);
     wissen_.msgBoxModus = hfo_.msgBoxModus();
     connect(hfo_.msgboxenAktion(), &QAction::toggled, this, [this] {
         wissen_.msgBoxModus = hfo_.msgBoxModus();
@@ -90,6 +93,7 @@ Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufall
         weiter();
     });
     connect(&hfo_, &Hauptfenster::neuePartieGewuenscht, this, &Tischsteuerung::neuePartie);
+    connect(&hfo_, &Hauptfenster::frageOffen, this, &Tischsteuerung::dialogOffen);
     connect(&hfo_, &Hauptfenster::automatikGewuenscht, this, &Tischsteuerung::automatikUmschalten);
     connect(&hfo_, &Hauptfenster::reKontraGewuenscht, this, &Tischsteuerung::reKontra);
     connect(&hfo_, &Hauptfenster::limitGewuenscht, this, &Tischsteuerung::limit);
@@ -104,6 +108,11 @@ void Tischsteuerung::setzeOptionen(const Anzeigeoptionen& optionen) {
     optionen_ = optionen;
     hfo_.tisch().setzeOptionen(optionen);
     ablauf_.kartenbildFranzoesisch(engine::franzoesischeBilder(optionen.kartenbild));
+}
+
+void Tischsteuerung::setzeTempo(Tempo tempo) {
+    tempo_ = tempo;
+    hfo_.tisch().setzeBewegungsdauer(tempo.flug, tempo.einsammeln);
 }
 
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
@@ -126,7 +135,7 @@ void Tischsteuerung::setzeEntscheider(Sitz sitz, std::shared_ptr<engine::Entsche
 }
 
 void Tischsteuerung::spielerPassend() {
-    players::Spielerumgebung umgebung{wissen_, *zufall_, &begruendungen_};
+    players::Spielerumgebung umgebung{wissen_, *zufall_, &protokoll_};
     for (const Sitz s : engine::alleSitze) {
         if (vorgegeben_[s] || (entscheider_[s] && gebaut_[s] == spiel_.charakter[s])) continue;
         entscheider_[s] = players::spielerErzeugen(spielerartFuer(spiel_.charakter[s]), umgebung);
@@ -146,6 +155,7 @@ void Tischsteuerung::ablaufZuruecksetzen() {
     einsammelnLaeuft_ = false;
     partieendeGemeldet_ = false;
     zugGemeldet_ = -1;
+    gemeldeterStand_ = {-1, -1, -1};
     meldungen_.clear();
     fremdeKarten_.clear();
 }
@@ -153,7 +163,9 @@ void Tischsteuerung::ablaufZuruecksetzen() {
 void Tischsteuerung::neuePartie() {
     ablaufZuruecksetzen();
     zeilen_.clear();
+    angaben_.clear();
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     hfo_.partieendeAnzeigen(false);
     ablauf_.neuePartie();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -163,6 +175,7 @@ void Tischsteuerung::neuePartie() {
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
+    protokoll_.vergessen();
     spiel_ = stand;
     hfo_.tisch().bewegungAbbrechen();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -181,11 +194,13 @@ void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
     const bool schonGewertet = spiel_.ergebnis.gewertet;
     // The score sheet of the Partie so far, as far as the table of games holds it.
     zeilen_.clear();
+    angaben_.clear();
     const int gespielt = std::min(spiel_.partie.spielNr - (schonGewertet ? 0 : 1),
                                   static_cast<int>(spiel_.partie.spieltabelle.size()));
     if (spiel_.regeln.abrOption == 2)
         for (int i = 0; i < gespielt; ++i) zeilen_.push_back(spiel_.partie.spieltabelle[static_cast<std::size_t>(i)]);
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     ablauf_.geladenesSpielFortsetzen();
     wissen_.nachvollziehen(spiel_);
     hfo_.partieendeAnzeigen(spiel_.ablauf.phase == engine::Spielphase::Partieende);
@@ -207,7 +222,9 @@ void Tischsteuerung::netzAnbinden(Netzanbindung* netz) {
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
     zeilen_.clear();
+    angaben_.clear();
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     spiel_.automatik = false;
     spiel_.steuerung = engine::Spiel::standardSteuerung();
     hfo_.tisch().bewegungAbbrechen();
@@ -252,6 +269,24 @@ bool Tischsteuerung::speicherbar() const {
     return p == Spielphase::Kartenspiel || p == Spielphase::StichVoll || p == Spielphase::Partieende;
 }
 
+bool Tischsteuerung::partieOffen() const {
+    if (netz_ && !netz_->eigenePartie()) return false;
+    return ablauf_.partieLaeuft() && spiel_.ablauf.phase != engine::Spielphase::Partieende;
+}
+
+// Once per card, trick, scored game and end of Partie, for the automatic save.
+void Tischsteuerung::standMelden() {
+    using engine::Spielphase;
+    const Spielphase p = spiel_.ablauf.phase;
+    if (!speicherbar() && p != Spielphase::Spielende) return;
+    if (netz_ && !netz_->eigenePartie()) return;
+    const std::tuple<int, int, int> stand{spiel_.partie.spielNr, spiel_.sticheGespielt * 4 + spiel_.stich.anzahl,
+                                          static_cast<int>(p)};
+    if (stand == gemeldeterStand_) return;
+    gemeldeterStand_ = stand;
+    emit standGeaendert();
+}
+
 void Tischsteuerung::planen(int ms, void (Tischsteuerung::*schritt)()) {
     if (geplant_) return;
     geplant_ = true;
@@ -274,7 +309,8 @@ void Tischsteuerung::meldungenZeigen() {
     while (!meldungen_.empty()) {
         const engine::Meldung m = meldungen_.front();
         meldungen_.erase(meldungen_.begin());
-        if (!optionen_.boxen || (m.titel.empty() && m.text.empty())) {
+        // Automatic play does not stop for the game's messages: they pass in the status line.
+        if (!optionen_.boxen || spiel_.automatik || (m.titel.empty() && m.text.empty())) {
             hfo_.statusSetzen(t(m.text));
             continue;
         }
@@ -293,10 +329,13 @@ void Tischsteuerung::weiter() {
         karteGelegt(pos, sitz);
         return;
     }
+    // The table and status line as they stand behind the boxes that come now.
+    if (!meldungen_.empty() || !begruendungen_.leer()) anzeigen(ablauf_.anfrage());
     meldungenZeigen();
     begruendungenZeigen();
     const Anfrage a = ablauf_.anfrage();
     anzeigen(a);
+    standMelden();
     const bool mensch = menschGefragt(a);
     const bool entscheidung = a.art == Anfrageart::Neugeben || a.art == Anfrageart::Vorbehalt || a.art == Anfrageart::Karte;
     if (entscheidung && a.steuerung == Steuerung::Netz) {
@@ -375,10 +414,9 @@ void Tischsteuerung::begruendungenZeigen() {
 }
 
 engine::ProSitz<int> Tischsteuerung::parteibilder() const {
-    // Until the first trick is taken every seat shows the picture of an unknown party.
+    const engine::ProSitz<int> parteien = sichtbareParteien(spiel_, wissen_.zeigerBild);
     engine::ProSitz<int> bilder;
-    for (const Sitz s : engine::alleSitze)
-        bilder[s] = wissen_.zeigerBild[s] > 0 ? wissen_.zeigerBild[s] : players::parteibild(s, engine::ParteiUnbekannt);
+    for (const Sitz s : engine::alleSitze) bilder[s] = players::parteibild(s, parteien[s]);
     return bilder;
 }
 
@@ -505,7 +543,10 @@ void Tischsteuerung::stichGeklickt() {
 void Tischsteuerung::spielendeZeigen() {
     const engine::Spielergebnis& e = spiel_.ergebnis;
     zeilen_.push_back(e.punkte);
+    angaben_.resize(zeilen_.size() - 1);
+    angaben_.push_back(spielangaben(spiel_, engine::franzoesischeBilder(optionen_.kartenbild)));
     letztesSpiel_ = spiel_;
+    letzteBegruendungen_ = protokoll_.spiel();
     Spielergebnis r;
     r.titel = texte::SpielendeTitel;
     r.text = e.text;
@@ -514,6 +555,14 @@ void Tischsteuerung::spielendeZeigen() {
     r.summen = spiel_.partie.punkte;
     modal([&] {
         Spielendedialog box(r, &hfo_);
+        // Automatic play lets the result be read, then goes on by itself, unless the
+        // person opened something from the box meanwhile.
+        QTimer schliessen;
+        connect(&schliessen, &QTimer::timeout, &box, [&box] {
+            if (QApplication::activeModalWidget() == &box) box.accept();
+        });
+        if (spiel_.automatik) schliessen.start(tempo_.spielende);
+        if (verlaufZeigen_) box.verlaufAnbieten([this, &box] { verlaufZeigen_(&box); });
         box.exec();
     });
 }
@@ -556,6 +605,7 @@ Spielzettelinhalt Tischsteuerung::spielzettelInhalt() const {
     Spielzettelinhalt inhalt;
     inhalt.namen = spiel_.namen;
     inhalt.spiele = zeilen_;
+    inhalt.angaben = angaben_;
     inhalt.summen = spiel_.partie.punkte;
     inhalt.abrOption = spiel_.regeln.abrOption;
     inhalt.endeBei = spiel_.regeln.endeBei;
@@ -570,6 +620,9 @@ void Tischsteuerung::spielzettelZeigen() {
     zettel->setzeInhalt(spielzettelInhalt());
     auto* spalte = new QVBoxLayout(&dialog);
     spalte->addWidget(zettel);
+    auto* knoepfe = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
+    connect(knoepfe, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    spalte->addWidget(knoepfe);
     modal([&] { dialog.exec(); });
     weiter();
 }

@@ -5,7 +5,8 @@ set -u
 T=$1 PY=$2
 D=$(mktemp -d)
 HOST1=
-trap '[ -n "$HOST1" ] && kill "$HOST1" 2>/dev/null; rm -rf "$D"' EXIT
+HOST2=
+trap 'kill $HOST1 $HOST2 2>/dev/null; rm -rf "$D"' EXIT
 FEHLER=0
 
 # erwarte STATUS TEXT BEFEHL...: runs the command, compares exit status and standard error.
@@ -43,9 +44,15 @@ erwarte 2 "computer1 ist kein gültiger Name!" "$T" --join "127.0.0.1:$P" --name
 FREI=$("$PY" -c 'import socket; s = socket.socket(); s.bind(("127.0.0.1", 0)); print(s.getsockname()[1])')
 erwarte 2 "Der Rechner 127.0.0.1 konnte nicht erreicht werden!" "$T" --join "127.0.0.1:$FREI" --name Anna --auto
 
-# The host goes away in the middle of the first game (killed after 3 seconds; at
-# one message per 200 ms the game has only begun).
-timeout -s KILL 3 "$T" --host --port 0 --auto --guests 1 --games 50 --tick 200 >/dev/null 2>"$D/host2.err" &
+# The host goes away in the middle of the first game: at one message per 200 ms
+# the game has only begun half a second after it started.
+"$T" --host --port 0 --auto --guests 1 --games 50 --tick 200 >/dev/null 2>"$D/host2.err" &
+HOST2=$!
 offen "$D/host2.err" || { echo "Host startet nicht"; exit 1; }
+(
+  for _ in $(seq 400); do grep -q "Die Partie beginnt" "$D/host2.err" && break; sleep 0.05; done
+  sleep 0.5
+  kill -9 "$HOST2"
+) &
 erwarte 3 "Die Verbindung zum Tischinhaber ist unterbrochen!" "$T" --join "127.0.0.1:$P" --name Anna --auto --tick 1
 exit $FEHLER

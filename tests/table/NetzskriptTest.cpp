@@ -345,7 +345,7 @@ TEST_F(NetzskriptTest, GastZeigtJedeStufe) {
 }
 
 TEST_F(NetzskriptTest, VerlorenerTischUndDasFoyer) {
-    // Yes to the foyer: "Restart" is written; without a foyer the table plays on alone.
+    // Yes to the foyer: "Restart" is written; when no new program starts, the table plays on alone.
     {
         Netzfenster gast(ordner_.path(), 4, zeiten(45000, 240000, 30000));
         gast.speicher.restartUebernehmen();
@@ -358,7 +358,7 @@ TEST_F(NetzskriptTest, VerlorenerTischUndDasFoyer) {
         ASSERT_TRUE(warten([&] { return host.hat("CBere"); }));
         boxBeantworten(QStringLiteral("Fehler 1: "), QMessageBox::Ok);
         boxBeantworten(QStringLiteral("Möchten Sie ins Foyer zurückkehren?"), QMessageBox::Yes);
-        boxBeantworten(QStringLiteral("Das Internet-Foyer gibt es"), QMessageBox::Ok);
+        boxBeantworten(QStringLiteral("Das Programm konnte nicht neu gestartet werden."), QMessageBox::Ok);
         host.socket->close();
         ASSERT_TRUE(warten([&] { return erwartet_.empty() && !gast.netz.gast(); }));
         EXPECT_TRUE(gast.speicher.restartUebernehmen());

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <iostream>
 
+#include "Foyertisch.h"
 #include "Installation.h"
 #include "Oberflaeche.h"
 #include "foyer/Foyerprogramm.h"
@@ -98,11 +99,13 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     // The foyer opens from the game menu, and at once when the program was restarted into it.
     std::unique_ptr<foyer::Foyerprogramm> foyerprogramm;
     auto foyerOeffnen = [&] {
-        if (!foyerprogramm)
+        if (!foyerprogramm) {
             foyerprogramm = std::make_unique<foyer::Foyerprogramm>(speicher, [](const QString& name) {
                 const auto fehler = net::namePruefen(name.toStdString());
                 return fehler ? QString::fromStdString(*fehler) : QString();
             });
+            foyerTischVerbinden(*foyerprogramm, netz, programm, speicher);
+        }
         foyerprogramm->oeffnen();
     };
     QObject::connect(hfo.foyerAktion(), &QAction::triggered, &hfo, foyerOeffnen);

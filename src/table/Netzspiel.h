@@ -56,6 +56,9 @@ public:
     bool hostenMitName(const QString& name, std::optional<int> port);
     bool beitretenMitAdresse(const QString& adresse, const QString& name);
 
+    // Leaves the network table; the seats get their own names back and a local Partie begins.
+    void tischVerlassen() { alleinSpielen(); }
+
     Netzhosttisch* host() const { return host_; }
     Netzgasttisch* gast() const { return gast_; }
     Chatbereich* chat() const { return chat_; }

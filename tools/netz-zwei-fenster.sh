@@ -1,9 +1,9 @@
 #!/bin/bash
-# Two table windows on a private Xvfb, as two people would use them: one hosts
-# (the computer plays its seat), one joins and plays by keyboard (arrow keys and
-# Enter, a wrong card answered like any box). Pictures of both windows go to
+# Two table windows on a private Xvfb, as two people would use them: one hosts,
+# one joins, both play by keyboard (arrow keys and Enter, a wrong card answered
+# like any box); the two other seats are the host's computer players. Pictures of both windows go to
 # OUTDIR every 2 seconds; after SEKUNDEN the guest's program is killed in the
-# middle of its game and the host's window is pictured 10 seconds more, with the
+# middle of its game and the host's window is pictured 30 seconds more, with the
 # computer in that seat. Needs: apt-get install xvfb xdotool x11-apps
 # Usage: tools/netz-zwei-fenster.sh TRUMPONA OUTDIR [SEKUNDEN]
 set -u
@@ -35,10 +35,8 @@ xdotool key --window "$GW" Return
 xdotool mousemove --window "$HW" 300 680 click 1 sleep 0.3 type --window "$HW" --delay 30 'Willkommen, Anna!'
 xdotool key --window "$HW" Return
 xdotool mousemove --window "$GW" 500 300 click 1 mousemove --window "$HW" 500 300 click 1
-# Spiel, "Netzwerkspiel sta&rten"; then " &Automatisch spielen " in the host's menu bar.
+# Spiel, "Netzwerkspiel sta&rten".
 xdotool windowfocus --sync "$HW" key --window "$HW" alt+s sleep 0.5 key --window "$HW" r
-sleep 1
-xdotool mousemove 280 8 click 1
 bild() { xwd -id "$1" -silent >"$D/b.xwd" 2>/dev/null && python3 "$(dirname "$0")/xwd2png.py" "$D/b.xwd" "$AUS/$2.png" 2; }
 boxen() {  # Enter on every window of the programs but the tables
   for p in "$@"; do
@@ -53,6 +51,7 @@ ENDE=$(($(date +%s) + SEK)) N=0
 while [ "$(date +%s)" -lt "$ENDE" ]; do
   boxen $HP $GP
   xdotool key --window "$GW" Right Return 2>/dev/null
+  xdotool key --window "$HW" Right Return 2>/dev/null
   sleep 0.3
   N=$((N + 1))
   [ $((N % 6)) -eq 0 ] && bild "$HW" "host-$N" && bild "$GW" "gast-$N"
@@ -60,8 +59,11 @@ done
 kill -9 $GP
 wait $GP 2>/dev/null
 GP=
-for i in 1 2 3 4 5; do
-  sleep 2
-  boxen $HP
+for i in $(seq 15); do
+  for _ in 1 2 3 4 5 6; do
+    boxen $HP
+    xdotool key --window "$HW" Right Return 2>/dev/null
+    sleep 0.3
+  done
   bild "$HW" "host-nach-$i"
 done

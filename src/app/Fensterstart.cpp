@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <iostream>
 
+#include "Foyertisch.h"
 #include "Installation.h"
 #include "Oberflaeche.h"
 #include "foyer/Foyerprogramm.h"
@@ -22,6 +23,7 @@
 #include "table/Dateiwahl.h"
 #include "table/Fensterplatz.h"
 #include "table/Hauptfenster.h"
+#include "table/Netzspiel.h"
 #include "table/Tischprogramm.h"
 #include "table/Tischsteuerung.h"
 #include "table/Tischtexte.h"
@@ -75,6 +77,9 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     steuerung.ablauf().beobachterHinzufuegen(&klaenge);
     QObject::connect(&steuerung, &table::Tischsteuerung::menschAmZug, [&] { klaenge.duBistDran(); });
     QObject::connect(&steuerung, &table::Tischsteuerung::supersauGemeldet, [&] { klaenge.supersau(); });
+    table::Netzspiel netz(hfo, steuerung, programm, speicher);
+    QObject::connect(&netz, &table::Netzspiel::spielerKommt, [&] { klaenge.spielerKommt(); });
+    QObject::connect(&netz, &table::Netzspiel::spielerGeht, [&] { klaenge.spielerGeht(); });
 
     hfo.setGeometry(
         table::fensterrahmen(speicher.hauptfenster(), schirm ? schirm->availableGeometry() : QRect(0, 0, 1024, 768)));
@@ -94,14 +99,18 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     // The foyer opens from the game menu, and at once when the program was restarted into it.
     std::unique_ptr<foyer::Foyerprogramm> foyerprogramm;
     auto foyerOeffnen = [&] {
-        if (!foyerprogramm)
+        if (!foyerprogramm) {
             foyerprogramm = std::make_unique<foyer::Foyerprogramm>(speicher, [](const QString& name) {
                 const auto fehler = net::namePruefen(name.toStdString());
                 return fehler ? QString::fromStdString(*fehler) : QString();
             });
+            foyerTischVerbinden(*foyerprogramm, netz, programm, speicher);
+        }
         foyerprogramm->oeffnen();
     };
     QObject::connect(hfo.foyerAktion(), &QAction::triggered, &hfo, foyerOeffnen);
+    // A guest whose table is lost may go back to the foyer: the program starts anew into it.
+    netz.setzeFoyerRueckkehr([&] { return foyer::insFoyerNeustarten(speicher); });
     const bool insFoyer = speicher.restartUebernehmen();
 
     const QString ladeDatei = QString::fromStdString(aufruf.ladeDatei);
@@ -109,7 +118,12 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
         // For measuring the start: TRUMPONA_STARTZEIT prints when the table first stood.
         if (qEnvironmentVariableIsSet("TRUMPONA_STARTZEIT"))
             QTimer::singleShot(0, [&] { std::cerr << "Tisch sichtbar nach " << uhr.elapsed() << " ms\n"; });
-        programm.starten(ladeDatei);
+        // --host and --join open the window in that role; the name falls back to the last one used.
+        const QString name = aufruf.name.empty() ? speicher.text(QStringLiteral("StartNick")) : QString::fromStdString(aufruf.name);
+        bool amNetz = false;
+        if (aufruf.modus == Modus::Host) amNetz = netz.hostenMitName(name, aufruf.port);
+        else if (aufruf.modus == Modus::Join) amNetz = netz.beitretenMitAdresse(QString::fromStdString(aufruf.joinAdresse), name);
+        if (!amNetz) programm.starten(ladeDatei);
         if (insFoyer) foyerOeffnen();
     });
     const int ergebnis = QApplication::exec();

@@ -133,6 +133,8 @@ std::string hilfetext() {
            "  trumpona --tournament N --players A,B [--seed S] [--rules DATEI]\n"
            "                                        Turnier zweier Spielerarten\n"
            "  trumpona --screenshot DATEI [--seed S]  den Tisch als PNG speichern\n"
+           "  trumpona --host [--port P] [--name NAME]  am Tischfenster einen Netzwerktisch eröffnen\n"
+           "  trumpona --join HOST[:PORT] --name NAME   am Tischfenster an einem Netzwerktisch Platz nehmen\n"
            "  trumpona --host [--port P] --auto --guests K --games N [--seed S] [--rules DATEI]\n"
            "                 [--json DATEI|-] [--name NAME] [--tick MS]\n"
            "                                        ohne Fenster einen Netzwerktisch eröffnen: K Gäste,\n"

@@ -36,8 +36,11 @@ int main(int argc, char** argv) {
         case app::Modus::Screenshot:
             return app::screenshotSchreiben(aufruf, argc, argv);
         case app::Modus::Turnier: return app::turnierStarten(aufruf);
-        case app::Modus::Host: return app::netzHostStarten(aufruf, argc, argv);
-        case app::Modus::Join: return app::netzGastStarten(aufruf, argc, argv);
+        // Without --auto the table window opens in that role.
+        case app::Modus::Host:
+            return aufruf.automatisch ? app::netzHostStarten(aufruf, argc, argv) : app::spielStarten(aufruf, argc, argv);
+        case app::Modus::Join:
+            return aufruf.automatisch ? app::netzGastStarten(aufruf, argc, argv) : app::spielStarten(aufruf, argc, argv);
         case app::Modus::Foyer: return app::foyerStarten(aufruf, argc, argv);
         case app::Modus::Ergebnisse: return app::ergebnisseSenden(aufruf, argc, argv);
         default:

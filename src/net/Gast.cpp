@@ -20,6 +20,7 @@ public:
     void hinweis(const std::string& t) override { emit g_.hinweis(q(t)); }
     void protokollzeile(const std::string& z) override { emit g_.protokollzeile(q(z)); }
     void namenGeaendert() override { emit g_.namenGeaendert(); }
+    void netztempo(int n) override { emit g_.netztempoErhalten(n); }
     void nameGefragt() override {
         g_.anmeldung_ = false;
         g_.warten_.stop();

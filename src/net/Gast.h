@@ -32,6 +32,8 @@ public:
     void chatSenden(const QString& text);
     // The answer to serverAntwortetNicht(): wait again, or give up (the connection closes).
     void wartenBeantworten(bool nochmal);
+    // The pump's interval in milliseconds (a window follows the host's "Netzt" with it).
+    void setzeTakt(int ms) { takt_.setInterval(ms); }
 
     // The core, for what the game needs to know (open question, host totals, log).
     const Gastkern* kern() const { return kern_.get(); }
@@ -45,6 +47,7 @@ signals:
     void hinweis(const QString& text);
     void protokollzeile(const QString& zeile);
     void namenGeaendert();
+    void netztempoErhalten(int netztempo);
     // The host refused the name: the text to show; a new one goes by nameSenden().
     void nameVergeben(const QString& text);
     void gefragt();

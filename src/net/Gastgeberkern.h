@@ -56,6 +56,8 @@ class Gastgeberkern final : public engine::Spielbeobachter {
 public:
     // Attaches itself to the cycle as an observer; seats 2..4 start computer-held.
     Gastgeberkern(engine::Spiel& spiel, engine::Spielablauf& ablauf, Gastgeberausgang& ausgang);
+    // Leaves the cycle, which may outlive the table (a window that plays on alone).
+    ~Gastgeberkern() override { ablauf_.beobachterEntfernen(this); }
 
     // The host's own name (seat 1, sent as "Serve") and its "Netztempo".
     void setzeHost(const std::string& name, int netztempo);

@@ -106,7 +106,10 @@ void Gastkern::anmeldung(const Nachricht& n) {
             namenAnwenden();
             break;
         }
-        case Hostnachricht::Netzt: netztempo_ = zahlWert(p); break;
+        case Hostnachricht::Netzt:
+            netztempo_ = zahlWert(p);
+            ausgang_.netztempo(netztempo_);
+            break;
         case Hostnachricht::Serve:
         case Hostnachricht::Neuer:
             if (const int h = sitzZiffer(p)) {

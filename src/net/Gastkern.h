@@ -33,6 +33,8 @@ public:
     virtual void hinweis(const std::string&) {}
     virtual void protokollzeile(const std::string&) {}
     virtual void namenGeaendert() {}
+    // The host's "Netztempo" ("Netzt"): the pace of the table.
+    virtual void netztempo(int) {}
     // The host asked for the name ("Name?"): the login has been answered.
     virtual void nameGefragt() {}
     // The host refused the name as taken; the text to show. Answer with nameSenden().

@@ -60,8 +60,8 @@ void Hauptfenster::menuesAnlegen() {
     spiel->addSeparator();
     einstellungen_ = aktion(spiel, t(texte::EinstellungenMenue), "m_einstellungen");
     foyer_ = aktion(spiel, t(texte::FoyerMenue), "m_foyer");
-    netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "m_netzprotokoll");
-    netzprotokoll_->setEnabled(false);  // network play is later work
+    netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "mnuSendebuffer");
+    netzprotokoll_->setEnabled(false);  // at a network table only
     spiel->addSeparator();
     ende_ = aktion(spiel, t(texte::Ende), "m_ende");
     ende_->setShortcut(QKeySequence(Qt::ALT | Qt::Key_F4));

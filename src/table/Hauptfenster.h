@@ -52,7 +52,7 @@ public:
     QAction* statistikAktion() const { return statistik_; }
     QAction* alleKartenAktion() const { return alleKarten_; }
     QAction* gespielteKartenAktion() const { return gespielteKarten_; }
-    // Network play is later work.
+    // `mnuSendebuffer`: the protocol log of a network table.
     QAction* netzprotokollAktion() const { return netzprotokoll_; }
 
     void statusSetzen(const QString& text);

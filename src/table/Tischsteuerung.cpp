@@ -13,6 +13,7 @@
 #include "Dialogtexte.h"
 #include "Hauptfenster.h"
 #include "Meldungsdialog.h"
+#include "Netzanbindung.h"
 #include "Qtext.h"
 #include "Spielendedialog.h"
 #include "Stichbetrachter.h"
@@ -47,10 +48,14 @@ std::vector<int> codesVon(const engine::Spiel& spiel, const std::vector<int>& po
 template <class F>
 auto Tischsteuerung::modal(F&& zeigen) {
     ++dialoge_;
+    netzBeschaeftigtMelden();
     struct Ende {
-        int& offen;
-        ~Ende() { --offen; }
-    } ende{dialoge_};
+        Tischsteuerung& s;
+        ~Ende() {
+            --s.dialoge_;
+            s.netzBeschaeftigtMelden();
+        }
+    } ende{*this};
     return zeigen();
 }
 
@@ -67,6 +72,7 @@ Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufall
     for (const Sitz s : engine::alleSitze) spiel_.namen[s] = "Spieler" + std::to_string(s.nr());
     ablauf_.meldungenAn(this);
     ablauf_.beobachterHinzufuegen(&wissen_);
+    ablauf_.beobachterHinzufuegen(this);
     ablauf_.beobachterHinzufuegen(&protokoll_);
     wissen_.msgBoxModus = hfo_.msgBoxModus();
     connect(hfo_.msgboxenAktion(), &QAction::toggled, this, [this] {
@@ -112,6 +118,7 @@ void Tischsteuerung::setzeTempo(Tempo tempo) {
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
 
 void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
+    if (netz_) return;  // at a network table the names are the players' own
     spiel_.namen = namen;
     hfo_.tisch().update();
 }
@@ -150,6 +157,7 @@ void Tischsteuerung::ablaufZuruecksetzen() {
     zugGemeldet_ = -1;
     gemeldeterStand_ = {-1, -1, -1};
     meldungen_.clear();
+    fremdeKarten_.clear();
 }
 
 void Tischsteuerung::neuePartie() {
@@ -205,7 +213,54 @@ void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
 
 void Tischsteuerung::dialogOffen(bool offen) {
     dialoge_ = std::max(0, dialoge_ + (offen ? 1 : -1));
+    netzBeschaeftigtMelden();
     if (!offen) weiter();
+}
+
+void Tischsteuerung::netzAnbinden(Netzanbindung* netz) {
+    netz_ = netz;
+    ablaufZuruecksetzen();
+    begruendungen_.verwerfen();
+    zeilen_.clear();
+    angaben_.clear();
+    letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
+    spiel_.automatik = false;
+    spiel_.steuerung = engine::Spiel::standardSteuerung();
+    hfo_.tisch().bewegungAbbrechen();
+    hfo_.partieendeAnzeigen(false);
+    ablauf_.neuePartie();
+    hfo_.tisch().setzeStichSichtbar(true);
+    weiter();
+}
+
+void Tischsteuerung::netzBeschaeftigtMelden() {
+    if (!netz_) return;
+    netz_->anzeigeBeschaeftigt(beschaeftigt_ || imDialog() || !fremdeKarten_.empty() ||
+                               spiel_.ablauf.phase == engine::Spielphase::StichVoll);
+}
+
+void Tischsteuerung::karteGespielt(const engine::Spiel&, Sitz sitz, int pos) {
+    if (spiel_.steuerung[sitz] != Steuerung::Netz) return;
+    fremdeKarten_.emplace_back(pos, sitz);
+    netzBeschaeftigtMelden();
+}
+
+engine::Bescheid Tischsteuerung::beantworten(const Antwort& antwort) {
+    if (netz_)
+        if (const auto b = netz_->antworten(antwort)) return *b;
+    return ablauf_.antworten(antwort);
+}
+
+engine::Bescheid Tischsteuerung::ansagen(Sitz sitz, const engine::Ansage& ansage) {
+    if (netz_ && sitz == Sitz(1))
+        if (const auto b = netz_->ansagen(ansage)) return *b;
+    return ablauf_.ansagen(sitz, ansage);
+}
+
+int Tischsteuerung::gelegteKarte(Sitz sitz, int gewaehlt) const {
+    const int platz = spiel_.stich.platz[sitz];
+    return platz > 0 ? spiel_.stich.karte(platz) : gewaehlt;
 }
 
 bool Tischsteuerung::speicherbar() const {
@@ -215,6 +270,7 @@ bool Tischsteuerung::speicherbar() const {
 }
 
 bool Tischsteuerung::partieOffen() const {
+    if (netz_ && !netz_->eigenePartie()) return false;
     return ablauf_.partieLaeuft() && spiel_.ablauf.phase != engine::Spielphase::Partieende;
 }
 
@@ -223,6 +279,7 @@ void Tischsteuerung::standMelden() {
     using engine::Spielphase;
     const Spielphase p = spiel_.ablauf.phase;
     if (!speicherbar() && p != Spielphase::Spielende) return;
+    if (netz_ && !netz_->eigenePartie()) return;
     const std::tuple<int, int, int> stand{spiel_.partie.spielNr, spiel_.sticheGespielt * 4 + spiel_.stich.anzahl,
                                           static_cast<int>(p)};
     if (stand == gemeldeterStand_) return;
@@ -264,7 +321,14 @@ void Tischsteuerung::meldungenZeigen() {
 // One step of the game: show the state, then answer the open request or wait for
 // the person, a timer or an animation.
 void Tischsteuerung::weiter() {
+    netzBeschaeftigtMelden();
     if (beschaeftigt_ || imDialog() || geplant_) return;
+    if (!fremdeKarten_.empty()) {
+        const auto [pos, sitz] = fremdeKarten_.front();
+        fremdeKarten_.erase(fremdeKarten_.begin());
+        karteGelegt(pos, sitz);
+        return;
+    }
     // The table and status line as they stand behind the boxes that come now.
     if (!meldungen_.empty() || !begruendungen_.leer()) anzeigen(ablauf_.anfrage());
     meldungenZeigen();
@@ -273,14 +337,22 @@ void Tischsteuerung::weiter() {
     anzeigen(a);
     standMelden();
     const bool mensch = menschGefragt(a);
+    const bool entscheidung = a.art == Anfrageart::Neugeben || a.art == Anfrageart::Vorbehalt || a.art == Anfrageart::Karte;
+    if (entscheidung && a.steuerung == Steuerung::Netz) {
+        if (netz_) netz_->anfrageAnNetz(a);
+        return;
+    }
+    // A guest's seat 1 decides once the host has asked.
+    if (entscheidung && a.sitz == Sitz(1) && netz_ && !netz_->darfAntworten()) return;
     switch (a.art) {
         case Anfrageart::Geben:
+            if (netz_ && !netz_->darfGeben()) return;
             geben();
             planen(0, &Tischsteuerung::weiter);
             return;
         case Anfrageart::Neugeben:
             if (mensch) neugebenBeantworten(a);
-            else ablauf_.antworten(Antwort::neugeben(a.neugeben.computerWuerde));
+            else beantworten(Antwort::neugeben(a.neugeben.computerWuerde));
             planen(0, &Tischsteuerung::weiter);
             return;
         case Anfrageart::Vorbehalt:
@@ -304,6 +376,7 @@ void Tischsteuerung::weiter() {
             if (optionen_.einsammeln == 0) planen(tempo_.stich, &Tischsteuerung::einsammeln);
             return;  // otherwise a click on the trick collects it
         case Anfrageart::NaechstesSpiel:
+            if (netz_ && !netz_->spielendeDa()) return;
             spielendeZeigen();
             ablauf_.antworten(Antwort::weiter(Anfrageart::NaechstesSpiel));
             emit spielGewertet();
@@ -351,10 +424,11 @@ void Tischsteuerung::anzeigen(const Anfrage& a) {
     Tischansicht& tisch = hfo_.tisch();
     QString status = t(a.status);
     if (a.art == Anfrageart::StichEinsammeln && optionen_.einsammeln != 0) status = QString::fromUtf8(texte::Einsammeln);
+    if (netz_) status = netz_->status(a, status);
     hfo_.statusSetzen(status);
     const bool karte = a.art == Anfrageart::Karte;
     tisch.setzeAmZug(karte ? a.sitz : std::nullopt);
-    tisch.setzeKartenwahl(karte && menschGefragt(a));
+    tisch.setzeKartenwahl(karte && menschGefragt(a) && (!netz_ || netz_->darfAntworten()));
     tisch.setzeParteibilder(parteibilder());
     tisch.neuZeichnen();
     hfo_.ansagemenueSetzen(ablauf_.menue(Sitz(1)));
@@ -371,7 +445,7 @@ void Tischsteuerung::neugebenBeantworten(const Anfrage& a) {
         return Meldungsdialog::fragen(hfo_.bilder(), &hfo_, t(engine::neugebenTitel(grund)), t(a.neugeben.frage),
                                       codesVon(spiel_, engine::gezeigteKarten(spiel_, *a.sitz, grund)));
     });
-    ablauf_.antworten(Antwort::neugeben(ja));
+    beantworten(Antwort::neugeben(ja));
 }
 
 void Tischsteuerung::vorbehaltBeantworten(const Anfrage& a) {
@@ -379,10 +453,10 @@ void Tischsteuerung::vorbehaltBeantworten(const Anfrage& a) {
     const bool mensch = menschGefragt(a);
     const engine::Vorbehalt v =
         mensch ? modal([&] { return vorbehaltFragen(a); }) : entscheider(s).vorbehaltWaehlen(spiel_, s);
-    const engine::Bescheid b = ablauf_.antworten(Antwort::mitVorbehalt(v));
+    const engine::Bescheid b = beantworten(Antwort::mitVorbehalt(v));
     if (b) return;
     if (mensch && !b.grund.empty()) hinweisen(t(texte::SoloTitel), b.grund);
-    ablauf_.antworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
+    beantworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
 }
 
 engine::Vorbehalt Tischsteuerung::vorbehaltFragen(const Anfrage& a) {
@@ -419,21 +493,23 @@ void Tischsteuerung::computerKarte() {
     if (a.art != Anfrageart::Karte || a.steuerung != Steuerung::Computer || beschaeftigt_) return weiter();
     const Sitz s = *a.sitz;
     engine::Entscheider& e = entscheider(s);
+    if (s == Sitz(1) && netz_ && !netz_->darfAntworten()) return weiter();
     if (ablauf_.ansageMoeglich(s))
-        if (const auto ansage = e.ansageWaehlen(spiel_, s)) ablauf_.ansagen(s, *ansage);
+        if (const auto ansage = e.ansageWaehlen(spiel_, s)) ansagen(s, *ansage);
     int pos = e.karteWaehlen(spiel_, s);
     // The reasons come before the card, and the card waits until every box is closed.
     begruendungenZeigen();
     if (ablauf_.offeneArt() != Anfrageart::Karte || ablauf_.sitzDerAnfrage() != s) return weiter();
-    if (!ablauf_.antworten(Antwort::karte(pos))) {
+    if (!beantworten(Antwort::karte(pos))) {
         pos = engine::ersteErlaubteKarte(spiel_, s);
-        ablauf_.antworten(Antwort::karte(pos));
+        beantworten(Antwort::karte(pos));
     }
-    karteGelegt(pos, s);
+    karteGelegt(gelegteKarte(s, pos), s);
 }
 
 void Tischsteuerung::karteGelegt(int pos, Sitz sitz) {
     beschaeftigt_ = true;
+    netzBeschaeftigtMelden();
     hfo_.tisch().setzeKartenwahl(false);
     hfo_.tisch().karteFliegen(pos, sitz);
 }
@@ -441,19 +517,21 @@ void Tischsteuerung::karteGelegt(int pos, Sitz sitz) {
 void Tischsteuerung::karteGewaehlt(int pos) {
     const Anfrage a = ablauf_.anfrage();
     if (a.art != Anfrageart::Karte || !menschGefragt(a) || beschaeftigt_ || imDialog()) return;
-    const engine::Bescheid b = ablauf_.antworten(Antwort::karte(pos));
+    if (netz_ && !netz_->darfAntworten()) return;
+    const engine::Bescheid b = beantworten(Antwort::karte(pos));
     if (!b) {
         // The card stays in the hand; the person chooses again.
         hinweisen(t(texte::FalscheKarteTitel), b.grund);
         return;
     }
-    karteGelegt(pos, Sitz(1));
+    karteGelegt(gelegteKarte(Sitz(1), pos), Sitz(1));
 }
 
 void Tischsteuerung::einsammeln() {
     if (spiel_.ablauf.phase != engine::Spielphase::StichVoll || beschaeftigt_) return weiter();
     beschaeftigt_ = true;
     einsammelnLaeuft_ = true;
+    netzBeschaeftigtMelden();
     hfo_.tisch().stichEinsammeln(spiel_.stiche.back().gewinner);
 }
 
@@ -495,9 +573,9 @@ void Tischsteuerung::ansageBescheid(const engine::Bescheid& b) {
     anzeigen(ablauf_.anfrage());
 }
 
-void Tischsteuerung::reKontra() { ansageBescheid(ablauf_.ansagen(Sitz(1), engine::Ansage{})); }
+void Tischsteuerung::reKontra() { ansageBescheid(ansagen(Sitz(1), engine::Ansage{})); }
 
-void Tischsteuerung::limit(int limitCode) { ansageBescheid(ablauf_.ansagen(Sitz(1), engine::Ansage{true, limitCode})); }
+void Tischsteuerung::limit(int limitCode) { ansageBescheid(ansagen(Sitz(1), engine::Ansage{true, limitCode})); }
 
 void Tischsteuerung::automatikUmschalten() {
     ablauf_.automatikUmschalten();

@@ -25,6 +25,7 @@
 namespace table {
 
 class Hauptfenster;
+class Netzanbindung;
 class Spielzettel;
 class Stichbetrachter;
 
@@ -38,7 +39,7 @@ struct Tempo {
     int spielende = 4500;  // the end box during automatic play, then it closes by itself
 };
 
-class Tischsteuerung : public QObject, public engine::Meldungssenke {
+class Tischsteuerung : public QObject, public engine::Meldungssenke, public engine::Spielbeobachter {
     Q_OBJECT
 public:
     Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent = nullptr);
@@ -70,6 +71,14 @@ public:
     // A Partie is under way and not yet over: ending the program would lose it.
     bool partieOffen() const;
 
+    // Plays at a network table from here on (nullptr: alone again). The table is
+    // cleared and waits for the network's first deal.
+    void netzAnbinden(Netzanbindung* netz);
+    Netzanbindung* netz() const { return netz_; }
+    // The game state, for the network table that keeps it in step (names, who
+    // plays each seat, the cards and decisions of the other machines).
+    engine::Spiel& spielFuerNetz() { return spiel_; }
+
     const engine::Spiel& spiel() const { return spiel_; }
     // The last scored game (its tricks stay viewable while the next one runs).
     const engine::Spiel& letztesSpiel() const { return letztesSpiel_; }
@@ -87,6 +96,8 @@ public:
     Spielzettelinhalt spielzettelInhalt() const;
 
     void meldung(const engine::Meldung& m) override;
+    // A card played at another machine flies in as a computer card does.
+    void karteGespielt(const engine::Spiel& spiel, engine::Sitz sitz, int pos) override;
 
 signals:
     // Seat 1 is to play a card (for the your-turn signal).
@@ -141,6 +152,12 @@ private:
     void standMelden();
     void sticheZeigen(const engine::Spiel& spiel, const std::vector<engine::StichProtokoll>& stiche);
     void ansageBescheid(const engine::Bescheid& b);
+    // Seat 1's decisions go to the network when it takes them, else to the cycle.
+    engine::Bescheid beantworten(const engine::Antwort& antwort);
+    engine::Bescheid ansagen(engine::Sitz sitz, const engine::Ansage& ansage);
+    // The position the cycle took for the seat's card (a guest plays the first of two equal cards).
+    int gelegteKarte(engine::Sitz sitz, int gewaehlt) const;
+    void netzBeschaeftigtMelden();
     engine::Entscheider& entscheider(engine::Sitz sitz);
 
     Hauptfenster& hfo_;
@@ -171,6 +188,8 @@ private:
     int zugGemeldet_ = -1;        // the card count at which seat 1's turn was last signalled
     std::tuple<int, int, int> gemeldeterStand_{-1, -1, -1};  // game, cards, phase of the last standGeaendert
     int schritt_ = 0;             // counts Partien, so a timer of an abandoned one does nothing
+    Netzanbindung* netz_ = nullptr;
+    std::vector<std::pair<int, engine::Sitz>> fremdeKarten_;  // played at another machine, not yet shown
 };
 
 }  // namespace table

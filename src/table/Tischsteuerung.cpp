@@ -118,7 +118,7 @@ void Tischsteuerung::setzeTempo(Tempo tempo) {
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
 
 void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
-    if (netz_) return;  // at a network table the names are the players' own
+    if (netz_ && !netz_->nurWartend()) return;  // at a network table the names are the players' own
     spiel_.namen = namen;
     hfo_.tisch().update();
 }
@@ -161,6 +161,7 @@ void Tischsteuerung::ablaufZuruecksetzen() {
 }
 
 void Tischsteuerung::neuePartie() {
+    if (netz_ && netz_->nurWartend()) netz_ = nullptr;
     ablaufZuruecksetzen();
     zeilen_.clear();
     angaben_.clear();
@@ -173,6 +174,7 @@ void Tischsteuerung::neuePartie() {
 }
 
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
+    if (netz_ && netz_->nurWartend()) netz_ = nullptr;
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
     protokoll_.vergessen();

@@ -10,6 +10,7 @@
 #include "foyer/Foyerverbindung.h"
 #include "foyer/Foyersitzung.h"
 #include "foyer/Ngircd.h"
+#include "table/Netzbereiche.h"
 #include "table/Netzfenster.h"
 #include "table/Netzgasttisch.h"
 #include "table/Netzhosttisch.h"
@@ -22,7 +23,10 @@ struct Foyerplatz {
     Foyerplatz(const QString& ordner, std::uint64_t seed, const QString& name, quint16 ircPort)
         : fenster(ordner, seed), foyer(fenster.speicher, [](const QString&) { return QString(); }) {
         fenster.speicher.setzeText(QStringLiteral("StartNick"), name);
-        app::foyerTischVerbinden(foyer, fenster.netz, fenster.programm, fenster.speicher);
+        table::Benutzereinstellungen b = fenster.programm.benutzer();
+        b.serverport = 0;  // a free port: tests run side by side
+        fenster.programm.EinstUebernehmen(fenster.programm.einstellungen(), b);
+        app::foyerTischVerbinden(foyer, fenster.netz, fenster.programm);
         QSignalSpy angemeldet(&foyer.verbindung(), &foyer::Foyerverbindung::angemeldet);
         foyer.verbindung().anmelden(QStringLiteral("127.0.0.1"), ircPort, name);
         EXPECT_TRUE(angemeldet.wait(10000));
@@ -30,6 +34,11 @@ struct Foyerplatz {
     testhilfe::Netzfenster fenster;
     foyer::Foyerprogramm foyer;
 };
+
+QString protokoll(Foyerplatz& platz) {
+    auto* bereich = platz.fenster.hfo.findChild<table::Protokollbereich*>();
+    return bereich ? bereich->text() : QString();
+}
 
 TEST(Foyertisch, TischEroeffnenPlatzNehmenZurueck) {
     foyertest::Ngircd irc;
@@ -40,6 +49,7 @@ TEST(Foyertisch, TischEroeffnenPlatzNehmenZurueck) {
     // One store for both windows in this process: each name is set again before it counts.
     emit wirt.foyer.tischEroeffnenGewuenscht();
     ASSERT_NE(wirt.fenster.netz.host(), nullptr);
+    wirt.fenster.hfo.netzprotokollAktion()->trigger();
     Foyerplatz anna(ordner.path(), 2, QStringLiteral("Anna"), irc.port());
     auto angebot = [&]() -> std::optional<foyer::Tischangebot> {
         for (const auto& t : anna.foyer.verbindung().sitzung().tische())
@@ -53,11 +63,44 @@ TEST(Foyertisch, TischEroeffnenPlatzNehmenZurueck) {
     ASSERT_TRUE(warten([&] { return wirt.fenster.spiel().namen[engine::Sitz(3)] == "Anna"; }));
     ASSERT_TRUE(warten([&] { return angebot() && angebot()->frei == 2; }));
 
-    // Back to the foyer: her window plays alone again, his seat is free once more.
+    // Back to the foyer: her window waits without dealing, under her own seat
+    // names; his seat is free once more and her "*TRET*" reaches his log.
     emit anna.foyer.tischVerlassenGewuenscht();
     EXPECT_EQ(anna.fenster.netz.gast(), nullptr);
+    EXPECT_TRUE(anna.fenster.netz.wartetImFoyer());
+    EXPECT_EQ(anna.fenster.spiel().namen[engine::Sitz(3)], "Spieler3");
+    EXPECT_EQ(anna.fenster.spiel().ablauf.phase, engine::Spielphase::Geben);
     ASSERT_TRUE(warten([&] { return wirt.fenster.spiel().namen[engine::Sitz(3)] == "Computer2"; }));
     ASSERT_TRUE(warten([&] { return angebot() && angebot()->frei == 3; }));
+    ASSERT_TRUE(warten([&] { return protokoll(wirt).contains(QStringLiteral("*TRET*")); }));
+
+    // The host leaves: his table vanishes from her list.
+    emit wirt.foyer.tischVerlassenGewuenscht();
+    EXPECT_EQ(wirt.fenster.netz.host(), nullptr);
+    EXPECT_TRUE(warten([&] { return anna.foyer.verbindung().sitzung().tische().empty(); }));
+}
+
+TEST(Foyertisch, FoyertextImNetzprotokollMitUndOhneTisch) {
+    foyertest::Ngircd irc;
+    ASSERT_TRUE(irc.laeuft()) << irc.fehler().toStdString();
+    QTemporaryDir ordner;
+    testhilfe::Boxenpumpe pumpe;
+    Foyerplatz wirt(ordner.path(), 1, QStringLiteral("Wirt"), irc.port());
+    Foyerplatz anna(ordner.path(), 2, QStringLiteral("Anna"), irc.port());
+    const QString kopf = QStringLiteral("*************IRC************");
+    // Hidden, the log takes nothing; shown, the foyer's lines come under their heading.
+    EXPECT_FALSE(protokoll(wirt).contains(kopf));
+    ASSERT_TRUE(wirt.fenster.hfo.netzprotokollAktion()->isEnabled());
+    wirt.fenster.hfo.netzprotokollAktion()->trigger();
+    anna.foyer.verbindung().foyerChatSenden(QStringLiteral("ohne Tisch"));
+    EXPECT_TRUE(warten([&] { return protokoll(wirt).contains(QStringLiteral("ohne Tisch")); }));
+    EXPECT_TRUE(protokoll(wirt).contains(kopf));
+    // With a table the lines go into the table's own log, beside its traffic.
+    emit wirt.foyer.tischEroeffnenGewuenscht();
+    ASSERT_NE(wirt.fenster.netz.host(), nullptr);
+    anna.foyer.verbindung().foyerChatSenden(QStringLiteral("mit Tisch"));
+    EXPECT_TRUE(warten([&] { return protokoll(wirt).contains(QStringLiteral("mit Tisch")); }));
+    EXPECT_FALSE(protokoll(wirt).contains(QStringLiteral("ohne Tisch")));
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include "Netzgasttisch.h"
 #include "Netzhosttisch.h"
 #include "Qtext.h"
+#include "Tischansicht.h"
 #include "Tischprogramm.h"
 #include "Tischsteuerung.h"
 #include "Tischtexte.h"
@@ -88,6 +89,8 @@ Netzspiel::Netzspiel(Hauptfenster& hfo, Tischsteuerung& steuerung, Tischprogramm
         if (host_) host_->chatSenden(text);
         else if (gast_) gast_->chatSenden(text);
     });
+    // After a word in the chat the cards are played by keyboard again without a click.
+    connect(chat_, &Chatbereich::fertig, this, [this] { hfo_.tisch().setFocus(); });
     // The guests hear of a new Partie before its first deal.
     connect(&hfo_, &Hauptfenster::neuePartieBestaetigt, this, [this] {
         if (host_) host_->neuePartieMelden();
@@ -222,6 +225,7 @@ void Netzspiel::anbinden(Netztisch* tisch) {
     // From the foyer the table comes to the front.
     hfo_.raise();
     hfo_.activateWindow();
+    hfo_.tisch().setFocus();
 }
 
 void Netzspiel::menueAnpassen() {

@@ -40,11 +40,16 @@ QString protokoll(Foyerplatz& platz) {
     return bereich ? bereich->text() : QString();
 }
 
-TEST(Foyertisch, TischEroeffnenPlatzNehmenZurueck) {
+// A private ngircd and the boxes answered, for two windows of this process.
+class Foyertisch : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(irc.laeuft()) << irc.fehler().toStdString(); }
     foyertest::Ngircd irc;
-    ASSERT_TRUE(irc.laeuft()) << irc.fehler().toStdString();
     QTemporaryDir ordner;
     testhilfe::Boxenpumpe pumpe;
+};
+
+TEST_F(Foyertisch, TischEroeffnenPlatzNehmenZurueck) {
     Foyerplatz wirt(ordner.path(), 1, QStringLiteral("Wirt"), irc.port());
     // One store for both windows in this process: each name is set again before it counts.
     emit wirt.foyer.tischEroeffnenGewuenscht();
@@ -80,11 +85,7 @@ TEST(Foyertisch, TischEroeffnenPlatzNehmenZurueck) {
     EXPECT_TRUE(warten([&] { return anna.foyer.verbindung().sitzung().tische().empty(); }));
 }
 
-TEST(Foyertisch, FoyertextImNetzprotokollMitUndOhneTisch) {
-    foyertest::Ngircd irc;
-    ASSERT_TRUE(irc.laeuft()) << irc.fehler().toStdString();
-    QTemporaryDir ordner;
-    testhilfe::Boxenpumpe pumpe;
+TEST_F(Foyertisch, FoyertextImNetzprotokollMitUndOhneTisch) {
     Foyerplatz wirt(ordner.path(), 1, QStringLiteral("Wirt"), irc.port());
     Foyerplatz anna(ordner.path(), 2, QStringLiteral("Anna"), irc.port());
     const QString kopf = QStringLiteral("*************IRC************");

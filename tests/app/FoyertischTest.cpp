@@ -1,11 +1,14 @@
 // The foyer's table side at the window, against a real ngircd: one player opens
 // a table from the foyer and hosts it at his window, another takes the seat
 // offered and joins at hers, the free seats follow, and going back leaves.
+#include <QMessageBox>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "Foyertisch.h"
+#include "foyer/Foyerfenster.h"
 #include "foyer/Foyerprogramm.h"
 #include "foyer/Foyerverbindung.h"
 #include "foyer/Foyersitzung.h"
@@ -83,6 +86,30 @@ TEST_F(Foyertisch, TischEroeffnenPlatzNehmenZurueck) {
     emit wirt.foyer.tischVerlassenGewuenscht();
     EXPECT_EQ(wirt.fenster.netz.host(), nullptr);
     EXPECT_TRUE(warten([&] { return anna.foyer.verbindung().sitzung().tische().empty(); }));
+}
+
+TEST_F(Foyertisch, VerlorenerTischFuehrtInsFoyerZurueck) {
+    pumpe.antworten = [](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        if (!box || box->text() != QStringLiteral("Möchten Sie ins Foyer zurückkehren?")) return false;
+        box->button(QMessageBox::Yes)->click();
+        return true;
+    };
+    Foyerplatz wirt(ordner.path(), 1, QStringLiteral("Wirt"), irc.port());
+    emit wirt.foyer.tischEroeffnenGewuenscht();
+    ASSERT_NE(wirt.fenster.netz.host(), nullptr);
+    Foyerplatz anna(ordner.path(), 2, QStringLiteral("Anna"), irc.port());
+    ASSERT_TRUE(warten([&] { return anna.foyer.verbindung().sitzung().tische().size() == 1; }));
+    emit anna.foyer.platzNehmenGewuenscht(anna.foyer.verbindung().sitzung().tische()[0].angebot);
+    ASSERT_TRUE(warten([&] { return anna.foyer.verbindung().sitzung().sitzAn() == 1; }));
+
+    // The host goes; Yes to the question brings her back to this foyer, not to a new program.
+    emit wirt.foyer.tischVerlassenGewuenscht();
+    ASSERT_TRUE(warten([&] { return anna.fenster.netz.wartetImFoyer(); }));
+    EXPECT_EQ(anna.fenster.netz.gast(), nullptr);
+    EXPECT_EQ(anna.foyer.verbindung().sitzung().sitzAn(), 0);
+    EXPECT_TRUE(anna.foyer.fenster().isVisible());
+    EXPECT_TRUE(anna.foyer.verbindung().istAngemeldet());
 }
 
 TEST_F(Foyertisch, FoyertextImNetzprotokollMitUndOhneTisch) {

@@ -71,6 +71,14 @@ Vorbehalt Regelwerk::vorbehaltWaehlen(const Spiel& spiel, Sitz sitz) {
 
 std::optional<Ansage> Regelwerk::ansageWaehlen(const Spiel& spiel, Sitz sitz) {
     if (!art_.ansagen) return std::nullopt;
+    // Re or Kontra is weighed during a trick or before the first card, a limit only when
+    // leading after the first trick: elsewhere neither rule can say yes.
+    const bool leer = spiel.stich.anzahl == 0 || spiel.stich.komplett();
+    const bool reKontra = ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine &&
+                          !(leer && spiel.sticheGespielt > 0);
+    const bool limit = leer && spiel.sticheGespielt > 0 &&
+                       ansageSperre(spiel, sitz, Ansage{true, Keine90}) == Ansagesperre::Keine;
+    if (!reKontra && !limit) return std::nullopt;
     if (!wissen_.aktuell(spiel)) wissen_.nachvollziehen(spiel);
     const Melder melder(senke_, sitz, wissen_.msgBoxModus == MsgBoxZeigen);
     const Lage lage(spiel, wissen_, sitz, melder, zufall_);

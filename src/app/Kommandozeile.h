@@ -24,6 +24,7 @@ struct Aufruf {
     std::string name;                  // --name NAME
     bool automatisch = false;          // --auto
     int spiele = 0;                    // --games N
+    std::optional<int> bedenkzeit;     // --bedenkzeit MS (the searching player)
 };
 
 struct Auswertung {

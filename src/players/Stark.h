@@ -52,6 +52,8 @@ public:
     // The card with its reasons (the rule book is asked on the same table as well).
     Kartenerklaerung karteErklaeren(const Spiel& spiel, Sitz sitz);
 
+    const Starkart& art() const { return art_; }
+    std::uint64_t seed() const { return seed_; }
     // Thinking time of every decision that searched, in milliseconds.
     const std::vector<double>& denkzeiten() const { return denkzeiten_; }
 

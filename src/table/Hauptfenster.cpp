@@ -45,6 +45,9 @@ void Hauptfenster::menuesAnlegen() {
     spielMenue_ = spiel;
     neuePartie_ = aktion(spiel, t(texte::NeuePartie), "m_neue_partie");
     neuePartie_->setShortcut(QKeySequence(Qt::Key_F2));
+    tipp_ = aktion(spiel, t(texte::Tipp), "m_tipp");
+    tipp_->setShortcut(QKeySequence(Qt::Key_H));
+    connect(tipp_, &QAction::triggered, this, &Hauptfenster::tippGewuenscht);
     spiel->addSeparator();
     laden_ = aktion(spiel, t(savegame::texte::MenueLaden), "m_partie_laden");
     laden_->setShortcut(QKeySequence::Open);

@@ -42,6 +42,7 @@ public:
     QAction* vollbildAktion() const { return vollbild_; }
     QAction* regelnAktion() const { return regeln_; }
     QMenu* spielMenue() const { return spielMenue_; }
+    QAction* tippAktion() const { return tipp_; }
     // Network play is later work.
     QAction* netzprotokollAktion() const { return netzprotokoll_; }
 
@@ -66,6 +67,8 @@ signals:
     void letzterStichGewuenscht();
     void alleSticheGewuenscht();
     void spielzettelGewuenscht();
+    // "&Tipp" (H): which card the strong player would play, and why.
+    void tippGewuenscht();
     void beendenGewuenscht();
 
 public slots:
@@ -99,6 +102,7 @@ private:
     QAction* netzprotokoll_ = nullptr;
     QAction* vollbild_ = nullptr;
     QAction* regeln_ = nullptr;
+    QAction* tipp_ = nullptr;
     QMenu* spielMenue_ = nullptr;
     bool partieUnterwegs_ = false;
     bool beendenBestaetigt_ = false;

@@ -48,6 +48,8 @@ public:
     QPointF kartenmitte(int pos) const;
     QPointF stichmitte() const;
     int ausgewaehlt() const { return ausgewaehlt_; }
+    // Puts the keyboard cursor on a card of seat 1 and lifts it (the hint); Enter plays it.
+    void setzeAusgewaehlt(int pos);
     Tischlayout layout() const;
 
     QSize sizeHint() const override { return {1024, 720}; }

@@ -214,13 +214,18 @@ Soloschaetzung soloSchaetzen(const Spiel& spiel, Sitz sitz, int art, bool amAufs
         return e;
     }
 
-    // Trumps pulled: a side card loses when another hand holds a stronger one of its suit.
+    // Trumps pulled: a side card loses when another hand holds a stronger one of its suit
+    // (or an equal second Dolle); the others' best card per suit tells.
+    std::array<int, 9> besteFremde{};
+    for (int q : fremdeKarten) {
+        auto& b = besteFremde[static_cast<std::size_t>(farbe(q))];
+        b = std::max(b, staerke(q));
+    }
     int verlierer = 0;
     for (int p : eigeneKarten) {
         if (farbe(p) == art) continue;
-        const bool geschlagen = std::any_of(fremdeKarten.begin(), fremdeKarten.end(), [&](int q) {
-            return farbe(q) == farbe(p) && !schlaegtGefuehrt(staerke(p), staerke(q), r);
-        });
+        const int fremd = besteFremde[static_cast<std::size_t>(farbe(p))];
+        const bool geschlagen = fremd > 0 && !schlaegtGefuehrt(staerke(p), fremd, r);
         if (!geschlagen) continue;
         ++verlierer;
         e.augen += d[p].augen;

@@ -66,10 +66,17 @@ Kartenerklaerung Stark::karteErklaeren(const Spiel& spiel, Sitz sitz) {
     if (!wissen_.aktuell(spiel)) wissen_.nachvollziehen(spiel);
     Meldungsliste gruende;
     // The rule book's card at this table, asked without touching the table's number.
+    // With the reasoning switched on, so that rules whose choice explains itself say so.
     Tischwissen kopie = wissen_;
+    kopie.msgBoxModus = MsgBoxZeigen;
     k.regelwerkKarte = Regelwerk(kopie, zufall_, &gruende).karteWaehlen(spiel, sitz);
-    for (const Meldung& m : gruende.meldungen)
-        if (m.art == Meldungsart::Regel && !m.text.empty()) k.regelText = m.text;
+    std::string hinweis;
+    for (const Meldung& m : gruende.meldungen) {
+        if (m.text.empty() || m.sitz != sitz) continue;
+        if (m.art == Meldungsart::Regel) k.regelText = m.text;
+        if (m.art == Meldungsart::Hinweis) hinweis = m.text;
+    }
+    if (k.regelText.empty()) k.regelText = hinweis;
     const Sicht sicht = sichtVon(spiel, sitz);
     const Suchergebnis e = karteSuchen(sicht, wissen_.zufallszahl, seedFuer(sicht), art_.suche);
     k.karte = e.karte;

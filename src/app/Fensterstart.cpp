@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <iostream>
 
+#include "Installation.h"
 #include "Oberflaeche.h"
 #include "engine/Kartentext.h"
 #include "settings/Benutzerspeicher.h"
@@ -21,6 +22,8 @@
 #include "table/Tischprogramm.h"
 #include "table/Tischsteuerung.h"
 #include "table/Tischtexte.h"
+#include "table/Turnierpartie.h"
+#include "services/Ergebnisablage.h"
 
 namespace app {
 
@@ -53,6 +56,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     table::Dateidialoge dateidialoge;
     table::Tischprogramm programm(hfo, steuerung, speicher, dateidialoge, settings::optionsdateiPfad());
     programm.setzeLesekontext(kontext);
+    table::Turnierpartie turnier(hfo, steuerung, programm, services::ergebnisordner());
 
     sound::QtKlanggeraet geraet;
     sound::Klangspieler klangspieler(geraet);
@@ -63,7 +67,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     };
     QObject::connect(&programm, &table::Tischprogramm::einstellungenUebernommen, klangEinstellen);
     programm.EinstUebernehmen(einstellungen, programm.benutzer());
-    klangspieler.soundOeffnen(QCoreApplication::applicationDirPath().toStdString());
+    klangspieler.soundOeffnen(klangordner(QCoreApplication::applicationDirPath()).toStdString());
     steuerung.ablauf().beobachterHinzufuegen(&klaenge);
     QObject::connect(&steuerung, &table::Tischsteuerung::menschAmZug, [&] { klaenge.duBistDran(); });
     QObject::connect(&steuerung, &table::Tischsteuerung::supersauGemeldet, [&] { klaenge.supersau(); });

@@ -89,6 +89,22 @@ Auswertung kommandozeileAuswerten(const std::vector<std::string>& argumente) {
         } else if (arg == "--games") {
             if (!wert(text) || !zahlLesen(text, a.spiele) || a.spiele < 1)
                 return fehler("--games braucht eine Anzahl");
+        } else if (arg == "--upload-results") {
+            a.modus = Modus::Ergebnisse;
+        } else if (arg == "--dir") {
+            if (!wert(a.ergebnisOrdner)) return fehler("--dir braucht einen Ordner");
+        } else if (arg == "--smtp") {
+            if (!wert(text) || text.empty()) return fehler("--smtp braucht HOST[:PORT]");
+            const auto doppelpunkt = text.rfind(':');
+            a.smtpHost = text.substr(0, doppelpunkt);
+            if (doppelpunkt != std::string::npos &&
+                (!zahlLesen(text.substr(doppelpunkt + 1), a.smtpPort) || a.smtpPort < 1 || a.smtpPort > 65535))
+                return fehler("--smtp braucht HOST[:PORT] mit einem Port von 1 bis 65535");
+            if (a.smtpHost.empty()) return fehler("--smtp braucht HOST[:PORT]");
+        } else if (arg == "--from") {
+            if (!wert(a.absender)) return fehler("--from braucht eine Adresse");
+        } else if (arg == "--to") {
+            if (!wert(a.empfaenger)) return fehler("--to braucht eine Adresse");
         } else {
             return fehler("Unbekannte Option: " + arg);
         }
@@ -110,6 +126,8 @@ std::string hilfetext() {
            "  trumpona --host [--port P]            einen Netzwerktisch eröffnen\n"
            "  trumpona --join HOST[:PORT] --name NAME  an einem Netzwerktisch Platz nehmen\n"
            "      mit --auto (der Computer spielt den eigenen Platz), --games N\n"
+           "  trumpona --upload-results [--dir DIR] [--smtp HOST:PORT] [--from ADR] [--to ADR]\n"
+           "                                        wartende Turnierergebnisse an die Turnierleitung mailen\n"
            "  trumpona --help | --version\n";
 }
 

@@ -7,7 +7,7 @@
 
 namespace app {
 
-enum class Modus { Spiel, Hilfe, Version, Autoplay, Turnier, Screenshot, Host, Join };
+enum class Modus { Spiel, Hilfe, Version, Autoplay, Turnier, Screenshot, Host, Join, Ergebnisse };
 
 struct Aufruf {
     Modus modus = Modus::Spiel;
@@ -25,6 +25,11 @@ struct Aufruf {
     bool automatisch = false;          // --auto
     int spiele = 0;                    // --games N
     std::optional<int> bedenkzeit;     // --bedenkzeit MS (the searching player)
+    std::string ergebnisOrdner;        // --upload-results --dir DIR
+    std::string smtpHost;              // --smtp HOST[:PORT]
+    int smtpPort = 0;                  //   0: the configured port
+    std::string absender;              // --from ADDR
+    std::string empfaenger;            // --to ADDR
 };
 
 struct Auswertung {

@@ -4,6 +4,7 @@
 
 #include "Autoplay.h"
 #include "PartieFortsetzen.h"
+#include "Ergebnisupload.h"
 #include "Fensterstart.h"
 #include "Kommandozeile.h"
 #include "Screenshot.h"
@@ -33,6 +34,7 @@ int main(int argc, char** argv) {
         case app::Modus::Screenshot:
             return app::screenshotSchreiben(aufruf, argc, argv);
         case app::Modus::Turnier: return app::turnierStarten(aufruf);
+        case app::Modus::Ergebnisse: return app::ergebnisseSenden(aufruf, argc, argv);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

@@ -9,9 +9,11 @@
 #include <QStyle>
 
 #include "Kartenbilder.h"
+#include "Lerntexte.h"
 #include "Qtext.h"
 #include "Tischansicht.h"
 #include "Tischtexte.h"
+#include "Turniertexte.h"
 #include "engine/Spielablauf.h"
 #include "savegame/Partietexte.h"
 
@@ -48,11 +50,16 @@ void Hauptfenster::menuesAnlegen() {
     tipp_ = aktion(spiel, t(texte::Tipp), "m_tipp");
     tipp_->setShortcut(QKeySequence(Qt::Key_H));
     connect(tipp_, &QAction::triggered, this, &Hauptfenster::tippGewuenscht);
+    turnierpartie_ = aktion(spiel, t(turniertext::TurnierpartieMenue), "m_turnierpartie");
+    ergebnisse_ = aktion(spiel, t(turniertext::ErgebnisseMenue), "m_turnierergebnisse");
     spiel->addSeparator();
     laden_ = aktion(spiel, t(savegame::texte::MenueLaden), "m_partie_laden");
     laden_->setShortcut(QKeySequence::Open);
     speichern_ = aktion(spiel, t(savegame::texte::MenueSpeichern), "m_partie_speichern");
     speichern_->setShortcut(QKeySequence::Save);
+    spiel->addSeparator();
+    spielverlauf_ = aktion(spiel, t(lerntext::SpielverlaufMenue), "m_spielverlauf");
+    statistik_ = aktion(spiel, t(lerntext::StatistikMenue), "m_statistik");
     spiel->addSeparator();
     einstellungen_ = aktion(spiel, t(texte::EinstellungenMenue), "m_einstellungen");
     netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "m_netzprotokoll");
@@ -77,9 +84,12 @@ void Hauptfenster::menuesAnlegen() {
     letzterStich_ = aktion(ansicht, t(texte::LetzterStich), "m_letzter_stich");
     alleStiche_ = aktion(ansicht, t(texte::AlleStiche), "m_alle_stiche");
     spielzettel_ = aktion(ansicht, t(texte::Spielzettel), "m_spielzettel");
+    gespielteKarten_ = aktion(ansicht, t(lerntext::GespielteKartenMenue), "m_gespielte_karten");
     ansicht->addSeparator();
     msgboxen_ = aktion(ansicht, t(texte::MsgboxenZeigen), "m_msgboxen_zeigen");
     msgboxen_->setCheckable(true);
+    alleKarten_ = aktion(ansicht, t(lerntext::AlleKartenZeigen), "m_alle_karten");
+    alleKarten_->setCheckable(true);
     ansicht->addSeparator();
     vollbild_ = aktion(ansicht, t(texte::VollbildMenue), "m_vollbild");
     vollbild_->setCheckable(true);
@@ -144,17 +154,29 @@ void Hauptfenster::m_neue_partie_click() {
         QMessageBox::question(this, windowTitle(), t(engine::ablauftext::PartieAbbrechen), QMessageBox::Yes | QMessageBox::No) !=
             QMessageBox::Yes)
         return;
+    emit neuePartieBestaetigt();
     emit neuePartieGewuenscht();
 }
 
+void Hauptfenster::beendenPruefen() {
+    if (!vorDemBeenden_) return;
+    const auto pruefung = std::move(vorDemBeenden_);
+    vorDemBeenden_ = nullptr;
+    pruefung();
+}
+
 void Hauptfenster::SubPrgBeenden() {
+    beendenPruefen();
     beendenBestaetigt_ = true;
     emit beendenGewuenscht();
     close();
 }
 
 void Hauptfenster::closeEvent(QCloseEvent* event) {
-    if (!beendenBestaetigt_) emit beendenGewuenscht();
+    if (!beendenBestaetigt_) {
+        beendenPruefen();
+        emit beendenGewuenscht();
+    }
     event->accept();
 }
 

@@ -90,6 +90,11 @@ void Tischansicht::setzeStichSichtbar(bool sichtbar) {
     update();
 }
 
+void Tischansicht::setzeOffeneHaende(bool an) {
+    offeneHaende_ = an;
+    neuZeichnen();
+}
+
 bool Tischansicht::bewegtSich() const { return bewegung_.has_value(); }
 
 void Tischansicht::bewegungAbbrechen() {
@@ -106,9 +111,20 @@ void Tischansicht::karteFliegen(int pos, Sitz sitz) {
     const auto plaetze = handplaetze(l);
     for (std::size_t i = 0; i < handfolge_.size(); ++i)
         if (handfolge_[i] == pos) von = plaetze[i];
+    if (offeneHaende_ && sitz.nr() != 1) {
+        const std::vector<int>& folge = offeneFolge_[sitz];
+        const auto offen = l.offeneHand(sitz, static_cast<int>(folge.size()));
+        for (std::size_t i = 0; i < folge.size(); ++i)
+            if (folge[i] == pos) von = offen[i];
+    }
     handAktualisieren();
     stichSichtbar_ = true;
     bewegen({pos}, {von}, {l.stichplatz(sitz)}, false);
+}
+
+void Tischansicht::setzeBewegungsdauer(int flugMs, int einsammelnMs) {
+    flugMs_ = std::max(0, flugMs);
+    einsammelnMs_ = std::max(0, einsammelnMs);
 }
 
 void Tischansicht::stichEinsammeln(Sitz gewinner) {
@@ -130,7 +146,7 @@ void Tischansicht::bewegen(std::vector<int> karten, std::vector<Kartenplatz> von
                            bool ausblenden) {
     animation_->stop();
     bewegung_ = Bewegung{std::move(karten), std::move(von), std::move(nach), ausblenden, 0};
-    animation_->setDuration(optionen_.animation ? (ausblenden ? 320 : 260) : 0);
+    animation_->setDuration(optionen_.animation ? (ausblenden ? einsammelnMs_ : flugMs_) : 0);
     // A zero duration still finishes through the event loop, so callers see one order of events.
     const int nr = ++bewegungNr_;
     QTimer::singleShot(0, animation_, [this, nr] {
@@ -146,6 +162,8 @@ void Tischansicht::neuZeichnen() {
 
 void Tischansicht::handAktualisieren() {
     handfolge_ = spiel_ ? sortierteHand(*spiel_, Sitz(1)) : std::vector<int>{};
+    for (const Sitz s : engine::alleSitze)
+        offeneFolge_[s] = spiel_ && offeneHaende_ && s.nr() != 1 ? sortierteHand(*spiel_, s) : std::vector<int>{};
     if (std::find(handfolge_.begin(), handfolge_.end(), ausgewaehlt_) == handfolge_.end()) ausgewaehlt_ = 0;
 }
 
@@ -300,7 +318,9 @@ void Tischansicht::karteMalen(QPainter& maler, const Kartenplatz& platz, QSizeF 
 void Tischansicht::sitzMalen(QPainter& maler, const Tischlayout& l, Sitz sitz) const {
     const qreal dpr = devicePixelRatioF();
     const int anzahl = kartenInHand(*spiel_, sitz);
-    if (sitz.nr() != 1) {
+    if (sitz.nr() != 1 && offeneHaende_) {
+        offeneHandMalen(maler, l, sitz);
+    } else if (sitz.nr() != 1) {
         const auto plaetze = l.verdeckteHand(sitz, anzahl);
         const QPixmap ruecken = bilder_.rueckseite(optionen_.rueckseite, l.kleineKarte(), dpr);
         for (const auto& p : plaetze) karteMalen(maler, p, l.kleineKarte(), ruecken);
@@ -344,6 +364,14 @@ void Tischansicht::sitzMalen(QPainter& maler, const Tischlayout& l, Sitz sitz) c
                        maler.fontMetrics().elidedText(name, Qt::ElideRight, static_cast<int>(innen.width())));
     }
     if (optionen_.parteiZeigen) parteibildMalen(maler, l.parteibild(sitz), parteibilder_[sitz]);
+}
+
+void Tischansicht::offeneHandMalen(QPainter& maler, const Tischlayout& l, Sitz sitz) const {
+    const std::vector<int> folge = sortierteHand(*spiel_, sitz);
+    const auto plaetze = l.offeneHand(sitz, static_cast<int>(folge.size()));
+    const QSizeF groesse = l.offeneKarte(sitz);
+    for (std::size_t i = 0; i < folge.size(); ++i)
+        karteMalen(maler, plaetze[i], groesse, bilder_.vorderseite(spiel_->deck[folge[i]].code, groesse, devicePixelRatioF()));
 }
 
 void Tischansicht::stichMalen(QPainter& maler, const Tischlayout& l) const {

@@ -113,6 +113,24 @@ std::vector<Kartenplatz> Tischlayout::verdeckteHand(engine::Sitz sitz, int anzah
     return plaetze;
 }
 
+std::vector<Kartenplatz> Tischlayout::offeneHand(engine::Sitz sitz, int anzahl) const {
+    if (sitz.nr() == 1 || sitz.nr() == 3 || anzahl <= 0) return verdeckteHand(sitz, anzahl);
+    constexpr int Spalten = 3;
+    const QSizeF karte = offeneKarte(sitz);
+    const int zeilen = (anzahl + Spalten - 1) / Spalten;
+    // The grid fills the strip the face-down column takes, between the top and the name plate.
+    const qreal links = sitz.nr() == 2 ? rand_ : flaeche_.width() - rand_ - klein_.height();
+    const qreal oben = rand_ + std::max(klein_.height(), schild_.height() * 1.6 + rand_) + rand_;
+    const qreal unten = namensschild(sitz).top() - rand_;
+    const qreal dx = std::min(karte.width() * 0.6, (klein_.height() - karte.width()) / (Spalten - 1));
+    const qreal dy = zeilen > 1 ? std::clamp((unten - oben - karte.height()) / (zeilen - 1), 0.0, karte.height() * 0.45) : 0;
+    const qreal y0 = (oben + unten) / 2 - (karte.height() + dy * (zeilen - 1)) / 2 + karte.height() / 2;
+    std::vector<Kartenplatz> plaetze;
+    for (int i = 0; i < anzahl; ++i)
+        plaetze.push_back({QPointF(links + karte.width() / 2 + (i % Spalten) * dx, y0 + (i / Spalten) * dy), 0});
+    return plaetze;
+}
+
 Kartenplatz Tischlayout::stichplatz(engine::Sitz sitz) const {
     const qreal dx = karte_.width() * 0.62;
     const qreal dy = karte_.height() * 0.3;

@@ -33,6 +33,10 @@ public:
     std::vector<Kartenplatz> hand(int anzahl) const;
     // The face-down hands of seats 2 (left), 3 (top) and 4 (right).
     std::vector<Kartenplatz> verdeckteHand(engine::Sitz sitz, int anzahl) const;
+    // The same hands face up ("Alle Karten zeigen"): seat 3 as before, seats 2 and 4
+    // upright in a grid of three columns, so each card's corner can be read.
+    std::vector<Kartenplatz> offeneHand(engine::Sitz sitz, int anzahl) const;
+    QSizeF offeneKarte(engine::Sitz sitz) const { return sitz.nr() == 3 ? klein_ : klein_ * 0.75; }
     // A seat's card in the trick.
     Kartenplatz stichplatz(engine::Sitz sitz) const;
     // Where a seat's cards come from when they fly to the trick.

@@ -5,14 +5,18 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QRandomGenerator>
+#include <utility>
 
 #include "Dateiwahl.h"
 #include "Einstellform.h"
 #include "Hauptfenster.h"
 #include "Kartenbilder.h"
+#include "Lernhilfen.h"
 #include "Qtext.h"
 #include "Regelseite.h"
+#include "Spielpause.h"
 #include "Stichbetrachter.h"
+#include "Tempostufen.h"
 #include "Tischsteuerung.h"
 #include "Tischtexte.h"
 #include "Verteilungsdialog.h"
@@ -42,18 +46,6 @@ void melden(QWidget* eltern, const savegame::Meldung& m) {
     }
 }
 
-// The program's own dialogs hold the game until they are closed.
-class Pause {
-public:
-    explicit Pause(Tischsteuerung& s) : s_(s) { s_.dialogOffen(true); }
-    ~Pause() { s_.dialogOffen(false); }
-    Pause(const Pause&) = delete;
-    Pause& operator=(const Pause&) = delete;
-
-private:
-    Tischsteuerung& s_;
-};
-
 }  // namespace
 
 Tischprogramm::Tischprogramm(Hauptfenster& hfo, Tischsteuerung& steuerung, settings::Benutzerspeicher& speicher,
@@ -75,13 +67,19 @@ Tischprogramm::Tischprogramm(Hauptfenster& hfo, Tischsteuerung& steuerung, setti
         fensterZeigen();
     });
     steuerung_.setzeKartengeber([this](const engine::Spiel& spiel) { return kartenGeben(spiel); });
+    lernhilfen_ = std::make_unique<Lernhilfen>(hfo_, steuerung_, speicher_);
 }
+
+Tischprogramm::~Tischprogramm() = default;
 
 void Tischprogramm::EinstUebernehmen(const settings::Einstellungen& e, const Benutzereinstellungen& b) {
     const bool vollbildVorher = einstellungen_.vollbild != 0;
     einstellungen_ = e;
     benutzer_ = b;
     steuerung_.setzeOptionen(anzeigeoptionen(e));
+    // The pace is taken over when its setting changed, so a pace set from outside (tests) stays.
+    const int tempo = e.animation == 0 ? TempoAus : b.tempo;
+    if (std::exchange(tempostufe_, tempo) != tempo) steuerung_.setzeTempo(tempoFuer(tempo));
     steuerung_.setzeRegelOptionen(e.regeln);
     engine::ProSitz<std::string> namen;
     engine::ProSitz<int> charaktere;
@@ -210,6 +208,7 @@ void Tischprogramm::partieLaden(const QString& pfad) {
             }
         }
     }
+    if (weiter != savegame::Weiter::LaufendesSpiel) emit partieGeladen();
     switch (weiter) {
         case savegame::Weiter::LaufendesSpiel: return;
         case savegame::Weiter::NeuePartie: steuerung_.neuePartie(); return;
@@ -223,7 +222,7 @@ void Tischprogramm::partieLaden(const QString& pfad) {
 }
 
 std::optional<engine::Kartenverteilung> Tischprogramm::kartenGeben(const engine::Spiel& spiel) {
-    if (!benutzer_.manuelleVerteilung) return std::nullopt;
+    if (!benutzer_.manuelleVerteilung || !manuellErlaubt_) return std::nullopt;
     QMessageBox frage(QMessageBox::Question, QString::fromUtf8(texte::Fenstertitel),
                       t(engine::ablauftext::ManuelleVerteilung), QMessageBox::Yes | QMessageBox::No, &hfo_);
     frage.setDefaultButton(QMessageBox::No);

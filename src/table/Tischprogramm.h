@@ -4,6 +4,7 @@
 // and loads a Partie, shows the welcome screen at the first new Partie and asks
 // for a deal by hand. The controller plays; the main window shows.
 #include <QObject>
+#include <memory>
 #include <optional>
 
 #include "Benutzereinstellungen.h"
@@ -19,6 +20,7 @@ namespace table {
 
 class Dateiwahl;
 class Hauptfenster;
+class Lernhilfen;
 class Tischsteuerung;
 
 class Tischprogramm : public QObject {
@@ -26,9 +28,11 @@ class Tischprogramm : public QObject {
 public:
     Tischprogramm(Hauptfenster& hfo, Tischsteuerung& steuerung, settings::Benutzerspeicher& speicher,
                   Dateiwahl& dateiwahl, QString optionsdatei, QObject* parent = nullptr);
+    ~Tischprogramm() override;
 
     const settings::Einstellungen& einstellungen() const { return einstellungen_; }
     const Benutzereinstellungen& benutzer() const { return benutzer_; }
+    Lernhilfen& lernhilfen() { return *lernhilfen_; }
     void setzeLesekontext(const settings::Lesekontext& kontext) { kontext_ = kontext; }
 
     // Takes changed options into the running program: display, names and sound at
@@ -42,6 +46,9 @@ public:
     // The window as the options want it: full screen or with its own frame.
     void fensterZeigen();
 
+    // Whether "Manuelle Kartenverteilung?" may be asked (not in a tournament Partie).
+    void setzeManuellesGebenErlaubt(bool erlaubt) { manuellErlaubt_ = erlaubt; }
+
     // The state a saved file gets (also for tests).
     savegame::Spielstand spielstand() const;
 
@@ -50,6 +57,8 @@ signals:
     void einstellungenUebernommen(const settings::Einstellungen& e);
     // The settings were reset: the program ends without writing anything back.
     void programmEndeVerlangt();
+    // A saved Partie replaces the running one (or a new one begins after it).
+    void partieGeladen();
 
 public slots:
     void willkommen_zeigen();
@@ -72,6 +81,9 @@ private:
     settings::Lesekontext kontext_;
     settings::Einstellungen einstellungen_;
     Benutzereinstellungen benutzer_;
+    std::unique_ptr<Lernhilfen> lernhilfen_;
+    int tempostufe_ = -1;  // the "Tempo" last taken over
+    bool manuellErlaubt_ = true;
 };
 
 }  // namespace table

@@ -63,10 +63,11 @@ bool Tischsteuerung::menschGefragt(const Anfrage& a) const {
 }
 
 Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent)
-    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &begruendungen_) {
+    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &protokoll_) {
     for (const Sitz s : engine::alleSitze) spiel_.namen[s] = "Spieler" + std::to_string(s.nr());
     ablauf_.meldungenAn(this);
     ablauf_.beobachterHinzufuegen(&wissen_);
+    ablauf_.beobachterHinzufuegen(&protokoll_);
     wissen_.msgBoxModus = hfo_.msgBoxModus();
     connect(hfo_.msgboxenAktion(), &QAction::toggled, this, [this] {
         wissen_.msgBoxModus = hfo_.msgBoxModus();
@@ -210,6 +211,11 @@ void Tischsteuerung::setzeOptionen(const Anzeigeoptionen& optionen) {
     ablauf_.kartenbildFranzoesisch(engine::franzoesischeBilder(optionen.kartenbild));
 }
 
+void Tischsteuerung::setzeTempo(Tempo tempo) {
+    tempo_ = tempo;
+    hfo_.tisch().setzeBewegungsdauer(tempo.flug, tempo.einsammeln);
+}
+
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
 
 void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
@@ -229,7 +235,7 @@ void Tischsteuerung::setzeEntscheider(Sitz sitz, std::shared_ptr<engine::Entsche
 }
 
 void Tischsteuerung::spielerPassend() {
-    players::Spielerumgebung umgebung{wissen_, *zufall_, &begruendungen_};
+    players::Spielerumgebung umgebung{wissen_, *zufall_, &protokoll_};
     umgebung.bedenkzeit = bedenkzeit_;
     umgebung.seed = static_cast<std::uint64_t>(spiel_.partie.partieNr) * 104729;
     for (const Sitz s : engine::alleSitze) {
@@ -258,6 +264,7 @@ void Tischsteuerung::neuePartie() {
     ablaufZuruecksetzen();
     zeilen_.clear();
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     hfo_.partieendeAnzeigen(false);
     ablauf_.neuePartie();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -267,6 +274,7 @@ void Tischsteuerung::neuePartie() {
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
+    protokoll_.vergessen();
     spiel_ = stand;
     hfo_.tisch().bewegungAbbrechen();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -290,6 +298,7 @@ void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
     if (spiel_.regeln.abrOption == 2)
         for (int i = 0; i < gespielt; ++i) zeilen_.push_back(spiel_.partie.spieltabelle[static_cast<std::size_t>(i)]);
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     ablauf_.geladenesSpielFortsetzen();
     wissen_.nachvollziehen(spiel_);
     hfo_.partieendeAnzeigen(spiel_.ablauf.phase == engine::Spielphase::Partieende);
@@ -545,6 +554,7 @@ void Tischsteuerung::spielendeZeigen() {
     const engine::Spielergebnis& e = spiel_.ergebnis;
     zeilen_.push_back(e.punkte);
     letztesSpiel_ = spiel_;
+    letzteBegruendungen_ = protokoll_.spiel();
     Spielergebnis r;
     r.titel = texte::SpielendeTitel;
     r.text = e.text;
@@ -553,6 +563,7 @@ void Tischsteuerung::spielendeZeigen() {
     r.summen = spiel_.partie.punkte;
     modal([&] {
         Spielendedialog box(r, &hfo_);
+        if (verlaufZeigen_) box.verlaufAnbieten([this, &box] { verlaufZeigen_(&box); });
         box.exec();
     });
 }

@@ -19,6 +19,7 @@
 #include "engine/Meldung.h"
 #include "engine/Spielablauf.h"
 #include "engine/Zufall.h"
+#include "players/Begruendungsprotokoll.h"
 #include "players/Tischwissen.h"
 
 namespace players {
@@ -32,10 +33,13 @@ class Hauptfenster;
 class Spielzettel;
 class Stichbetrachter;
 
-// How long the table lets a computer card or a full trick be seen (milliseconds).
+// How long the table lets a computer card or a full trick be seen, and how long a
+// card flies to the trick and a trick to its winner (milliseconds; see Tempostufen.h).
 struct Tempo {
     int karte = 550;
     int stich = 1100;
+    int flug = 260;
+    int einsammeln = 320;
 };
 
 class Tischsteuerung : public QObject, public engine::Meldungssenke {
@@ -47,7 +51,7 @@ public:
     void setzeOptionen(const Anzeigeoptionen& optionen);
     void setzeRegelOptionen(const engine::RegelOptionen& regeln);
     void setzeNamen(const engine::ProSitz<std::string>& namen);
-    void setzeTempo(Tempo tempo) { tempo_ = tempo; }
+    void setzeTempo(Tempo tempo);
     // The seats' "charakter" (kind of computer player); taken over with the next deal.
     void setzeCharaktere(const engine::ProSitz<int>& charaktere);
     // Thinking time of the strong player (character 3) in ms; taken over with the next player made.
@@ -73,6 +77,10 @@ public:
     const engine::Spiel& spiel() const { return spiel_; }
     // The last scored game (its tricks stay viewable while the next one runs).
     const engine::Spiel& letztesSpiel() const { return letztesSpiel_; }
+    // What the computer players gave as reasons in the last scored game.
+    const players::Spielbegruendungen& letzteBegruendungen() const { return letzteBegruendungen_; }
+    // Offered in the end box: opens the review of the game just scored over it.
+    void setzeVerlaufAnzeige(std::function<void(QWidget* eltern)> zeigen) { verlaufZeigen_ = std::move(zeigen); }
     engine::Spielablauf& ablauf() { return ablauf_; }
     // What the computer seats believe; it also drives the party pictures.
     const players::Tischwissen& wissen() const { return wissen_; }
@@ -149,6 +157,7 @@ private:
     Anzeigeoptionen optionen_;
     Tempo tempo_;
     Begruendungsanzeige begruendungen_;
+    players::Begruendungsprotokoll protokoll_{&begruendungen_};  // keeps the reasons, then shows them
     players::Tischwissen wissen_;
     engine::ProSitz<int> charaktere_{2};
     engine::ProSitz<std::shared_ptr<engine::Entscheider>> entscheider_;
@@ -158,6 +167,8 @@ private:
     std::vector<engine::Meldung> meldungen_;
     std::vector<engine::ProSitz<int>> zeilen_;
     engine::Spiel letztesSpiel_;  // the last scored game, for its tricks
+    players::Spielbegruendungen letzteBegruendungen_;
+    std::function<void(QWidget*)> verlaufZeigen_;
     bool geplant_ = false;        // a step is scheduled
     bool beschaeftigt_ = false;   // a card flies or a trick is being collected
     bool imDialog_ = false;       // a modal dialog of ours is open

@@ -22,6 +22,8 @@
 #include "settings/Optionsdatei.h"
 #include "table/Einstellelemente.h"
 #include "table/Einstellform.h"
+#include "table/Regelvorlagen.h"
+#include "table/Tempostufen.h"
 
 namespace {
 
@@ -80,6 +82,7 @@ TEST_F(EinstellformTest, JedeGeaenderteOptionErreichtDieDateiNurMitSpeichernJn) 
         std::map<std::string, int> erwartet;
         for (const std::string_view schluessel : settings::leseschluessel()) {
             if (schluessel == "Joker") continue;  // it overrides the Dollen: see the interlock test
+            if (schluessel == "Animation") continue;  // one list with the pace: see the Tempo test
             QWidget* w = form.findChild<QWidget*>(QString::fromUtf8(schluessel.data(), static_cast<qsizetype>(schluessel.size())));
             ASSERT_NE(w, nullptr) << schluessel;
             erwartet[std::string(schluessel)] = aendern(w);
@@ -140,8 +143,13 @@ TEST_F(EinstellformTest, JokerErzwingtErsteDolleHoch) {
 
 TEST_F(EinstellformTest, ExportUndImportStellenAlleWerteWiederHer) {
     table::Einstellform form(Einstellungen{}, {}, umgebung());
-    for (const std::string_view schluessel : settings::leseschluessel())
+    for (const std::string_view schluessel : settings::leseschluessel()) {
+        if (schluessel == "Animation") {  // "Aus" in the pace list
+            form.findChild<QComboBox*>(QStringLiteral("Tempo"))->setCurrentIndex(0);
+            continue;
+        }
         aendern(form.findChild<QWidget*>(QString::fromUtf8(schluessel.data(), static_cast<qsizetype>(schluessel.size()))));
+    }
     for (int sitz = 1; sitz <= 4; ++sitz) {
         form.findChild<QLineEdit*>(QStringLiteral("Name%1").arg(sitz))->setText(QStringLiteral("Mäx, der %1.").arg(sitz));  // blanks around a value are not kept by the format
         aendern(form.findChild<QComboBox*>(QStringLiteral("charakter%1").arg(sitz)));
@@ -332,3 +340,103 @@ TEST(Dateiwahl, FilterUndDialog) {
 }
 
 }  // namespace
+
+namespace {
+
+// Chooses a preset as a person does: from the list.
+void vorlageWaehlen(table::Einstellform& form, const QString& name) {
+    auto* liste = form.findChild<QComboBox*>(QStringLiteral("regelvorlage"));
+    const int i = liste->findText(name);
+    ASSERT_GE(i, 0) << name.toStdString();
+    liste->setCurrentIndex(i);
+    emit liste->activated(i);
+}
+
+QString gezeigteVorlage(table::Einstellform& form) {
+    return form.findChild<QComboBox*>(QStringLiteral("regelvorlage"))->currentText();
+}
+
+}  // namespace
+
+TEST_F(EinstellformTest, RegelvorlagenSetzenRegelnUndWerdenErkannt) {
+    Einstellungen e;
+    e.regeln.joker = -1;  // the Joker forces the first Dolle high; a preset without it frees the choice again
+    table::Einstellform form(e, {}, umgebung());
+    EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("(eigene Auswahl)"));
+
+    for (const table::Regelvorlage& v : table::festeVorlagen()) {
+        vorlageWaehlen(form, QString::fromStdString(v.name));
+        EXPECT_TRUE(table::passt(form.einstellungen().regeln, v)) << v.name;
+        EXPECT_EQ(gezeigteVorlage(form), QString::fromStdString(v.name));
+        // Names and display options stay as they were.
+        EXPECT_EQ(form.einstellungen().namen, e.namen);
+        EXPECT_EQ(form.einstellungen().kartenbild, e.kartenbild);
+    }
+    EXPECT_TRUE(form.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"))->isEnabled());
+
+    // Turnierregeln: second Dolle beats the first; switching the Joker on overrides that and leaves the preset.
+    vorlageWaehlen(form, QStringLiteral("Turnierregeln"));
+    EXPECT_EQ(form.einstellungen().regeln.herzZehn, 0);
+    form.findChild<QCheckBox*>(QStringLiteral("Joker"))->setChecked(true);
+    EXPECT_EQ(form.einstellungen().regeln.herzZehn, -1);
+    EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("(eigene Auswahl)"));
+
+    // Kept as house rules, they are offered and recognised from then on, in a new dialog too.
+    form.findChild<QPushButton*>(QStringLiteral("hausregeln_merken"))->click();
+    EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("Hausregeln (eigene)"));
+    const engine::RegelOptionen eigene = form.einstellungen().regeln;
+    table::Einstellform neu(Einstellungen{}, {}, umgebung());
+    vorlageWaehlen(neu, QStringLiteral("Hausregeln (eigene)"));
+    EXPECT_EQ(neu.einstellungen().regeln, eigene);
+    EXPECT_EQ(neu.einstellungen().regeln.joker, -1);
+    EXPECT_FALSE(neu.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"))->isEnabled());
+}
+
+TEST(Regelvorlagen, HausregelnAlsText) {
+    engine::RegelOptionen r;
+    r.kontra = 3;
+    r.joker = -1;
+    const table::Regelvorlage v = table::hausregeln(r);
+    EXPECT_EQ(table::anwenden({}, table::hausregelnAusText(table::hausregelnText(v))), r);
+    // What cannot be read is left out; the rest still counts.
+    const table::Regelvorlage kaputt = table::hausregelnAusText("Kontra=2;Unbekannt=1;Limit=x;;=;Joker=-1");
+    EXPECT_EQ(kaputt.werte, (std::vector<std::pair<std::string, int>>{{"Kontra", 2}, {"Joker", -1}}));
+    // A stored 1 is no switched-on rule, as in the game.
+    engine::RegelOptionen eins;
+    eins.joker = 1;
+    EXPECT_FALSE(table::passt(eins, table::hausregeln(r)));
+    EXPECT_TRUE(table::passt(eins, table::hausregeln(engine::RegelOptionen{})));
+}
+
+// "Tempo": off is "Animation" 0; a pace is kept in the per-user store, and survives switching off.
+TEST_F(EinstellformTest, TempoIstAnimationUndGeschwindigkeit) {
+    table::Benutzereinstellungen b;
+    b.tempo = 3;
+    table::Einstellform form(Einstellungen{}, b, umgebung());
+    auto* tempo = form.findChild<QComboBox*>(QStringLiteral("Tempo"));
+    QStringList stufen;
+    for (int i = 0; i < tempo->count(); ++i) stufen << tempo->itemText(i);
+    EXPECT_EQ(stufen, (QStringList{QStringLiteral("Aus (ohne Kartenbewegung)"), QStringLiteral("Schnell"),
+                                   QStringLiteral("Normal"), QStringLiteral("Langsam")}));
+    EXPECT_EQ(tempo->currentText(), QStringLiteral("Langsam"));
+    const struct { int index; int animation; int gespeichert; } zeilen[] = {{0, 0, 3}, {1, -1, 1}, {2, -1, 2}, {0, 0, 2}};
+    for (const auto& z : zeilen) {
+        tempo->setCurrentIndex(z.index);
+        EXPECT_EQ(form.einstellungen().animation, z.animation) << z.index;
+        EXPECT_EQ(form.benutzer().tempo, z.gespeichert) << z.index;
+    }
+    form.accept();
+    EXPECT_EQ(table::benutzereinstellungenLesen(speicher_).tempo, 2);
+    Einstellungen aus;
+    aus.animation = 0;
+    table::Einstellform wieder(aus, table::benutzereinstellungenLesen(speicher_), umgebung());
+    EXPECT_EQ(wieder.findChild<QComboBox*>(QStringLiteral("Tempo"))->currentIndex(), 0);
+    // Fast is never slower than the table always was.
+    const table::Tempo normal = table::tempoFuer(table::TempoNormal), schnell = table::tempoFuer(table::TempoSchnell);
+    EXPECT_LE(schnell.karte, 550);
+    EXPECT_LE(schnell.stich, 1100);
+    EXPECT_LE(schnell.flug, 260);
+    EXPECT_LE(schnell.einsammeln, 320);
+    EXPECT_LT(normal.karte, table::tempoFuer(table::TempoLangsam).karte);
+    EXPECT_EQ(table::tempoFuer(table::TempoAus).flug, 0);
+}

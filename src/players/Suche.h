@@ -14,7 +14,7 @@ namespace players {
 struct Sucheinstellung {
     int simulationen = 4000;   // games played to the end per decision: the budget
     int threads = 0;           // 0: every core
-    double abweichung = 0.5;   // weight factor per card of another seat the rule book would not have played; 1: unweighted
+    double abweichung = 0.7;   // weight factor per card of another seat the rule book would not have played; 1: unweighted
     int endspielStiche = 3;    // solve exactly with this many tricks left or fewer (0: never)
     bool rolloutAnsagen = true;  // the rule book announces in the simulated games
 };

@@ -145,6 +145,7 @@ void Tischsteuerung::denkenLassen(Sitz sitz, const players::Stark& stark) {
     wissen_.zugVorbereiten(spiel_, sitz);
     auto job = denkjob(sitz, stark.art(), stark.seed());
     if (denker_.joinable()) denker_.join();
+    denkjob_ = job;
     const bool ansageMoeglich = ablauf_.ansageMoeglich(sitz);
     denker_ = std::thread([this, job, ansageMoeglich] {
         if (ansageMoeglich) {
@@ -160,7 +161,10 @@ void Tischsteuerung::denkenLassen(Sitz sitz, const players::Stark& stark) {
 }
 
 void Tischsteuerung::gedacht(const std::shared_ptr<Denkjob>& job) {
+    // An old job's answer never waits for a newer thread.
+    if (job != denkjob_) return;
     if (denker_.joinable()) denker_.join();
+    denkjob_.reset();
     if (job->schritt != schritt_) return;
     beschaeftigt_ = false;
     if (!stimmtNoch(*job)) return weiter();

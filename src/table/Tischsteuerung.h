@@ -178,6 +178,7 @@ private:
     int schritt_ = 0;             // counts Partien, so a timer of an abandoned one does nothing
     int bedenkzeit_ = 500;
     std::thread denker_;          // a computer seat thinking
+    std::shared_ptr<Denkjob> denkjob_;  // what denker_ works on
     std::thread tippDenker_;      // the hint being worked out
     std::atomic<bool> tippLaeuft_{false};
 };

@@ -1,5 +1,6 @@
 #include "Fensterstart.h"
 
+#include <QAction>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QRandomGenerator>
@@ -9,6 +10,8 @@
 
 #include "Installation.h"
 #include "Oberflaeche.h"
+#include "foyer/Foyerprogramm.h"
+#include "net/Namen.h"
 #include "engine/Kartentext.h"
 #include "settings/Benutzerspeicher.h"
 #include "settings/Optionsdatei.h"
@@ -56,6 +59,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     table::Dateidialoge dateidialoge;
     table::Tischprogramm programm(hfo, steuerung, speicher, dateidialoge, settings::optionsdateiPfad());
     programm.setzeLesekontext(kontext);
+    programm.setzeSicherungsdatei(table::Tischprogramm::standardSicherungsdatei());
     table::Turnierpartie turnier(hfo, steuerung, programm, services::ergebnisordner());
 
     sound::QtKlanggeraet geraet;
@@ -87,14 +91,29 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
         speicher.synchronisieren();
     });
 
+    // The foyer opens from the game menu, and at once when the program was restarted into it.
+    std::unique_ptr<foyer::Foyerprogramm> foyerprogramm;
+    auto foyerOeffnen = [&] {
+        if (!foyerprogramm)
+            foyerprogramm = std::make_unique<foyer::Foyerprogramm>(speicher, [](const QString& name) {
+                const auto fehler = net::namePruefen(name.toStdString());
+                return fehler ? QString::fromStdString(*fehler) : QString();
+            });
+        foyerprogramm->oeffnen();
+    };
+    QObject::connect(hfo.foyerAktion(), &QAction::triggered, &hfo, foyerOeffnen);
+    const bool insFoyer = speicher.restartUebernehmen();
+
     const QString ladeDatei = QString::fromStdString(aufruf.ladeDatei);
     QTimer::singleShot(0, &steuerung, [&] {
         // For measuring the start: TRUMPONA_STARTZEIT prints when the table first stood.
         if (qEnvironmentVariableIsSet("TRUMPONA_STARTZEIT"))
             QTimer::singleShot(0, [&] { std::cerr << "Tisch sichtbar nach " << uhr.elapsed() << " ms\n"; });
         programm.starten(ladeDatei);
+        if (insFoyer) foyerOeffnen();
     });
     const int ergebnis = QApplication::exec();
+    foyerprogramm.reset();
     klangspieler.soundSchliessen();
     return ergebnis;
 }

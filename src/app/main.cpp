@@ -6,7 +6,9 @@
 #include "PartieFortsetzen.h"
 #include "Ergebnisupload.h"
 #include "Fensterstart.h"
+#include "Foyerlauf.h"
 #include "Kommandozeile.h"
+#include "Netzlauf.h"
 #include "Screenshot.h"
 #include "Turnier.h"
 #include "Version.h"
@@ -34,6 +36,9 @@ int main(int argc, char** argv) {
         case app::Modus::Screenshot:
             return app::screenshotSchreiben(aufruf, argc, argv);
         case app::Modus::Turnier: return app::turnierStarten(aufruf);
+        case app::Modus::Host: return app::netzHostStarten(aufruf, argc, argv);
+        case app::Modus::Join: return app::netzGastStarten(aufruf, argc, argv);
+        case app::Modus::Foyer: return app::foyerStarten(aufruf, argc, argv);
         case app::Modus::Ergebnisse: return app::ergebnisseSenden(aufruf, argc, argv);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";

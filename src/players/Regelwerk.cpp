@@ -36,11 +36,12 @@ int Regelwerk::karteWaehlen(const Spiel& spiel, Sitz sitz) {
     if (!passt(vorlage, spiel, sitz)) neu = std::make_unique<Lage>(spiel, wissen_, sitz, melder, zufall_);
     const Lage& lage = neu ? *neu : *vorlage.lage;
     if (lage.erlaubt.empty()) return 0;
-    int karte = lage.anzahl == 0 ? ausspielWaehlen(lage) : bedienenWaehlen(lage);
+    int karte = lage.anzahl == 0 ? ausspielWaehlen(lage) : (art_.bedienen ? art_.bedienen : bedienenWaehlen)(lage);
     if (!istErlaubt(lage, karte)) {
         melder.rueckfall("Regelwerk");
         karte = rueckfallKarte(lage);
     }
+    if (lage.neueZufallszahl) wissen_.zufallszahl = *lage.neueZufallszahl;
     return karte;
 }
 

@@ -20,7 +20,8 @@ struct Spielerumgebung {
     int threads = 0;                 // of the search; 0 every core
 };
 
-// "regelwerk", "regelwerk-ohne-ansagen", "regelwerk-nur-karten", "zufall", "kleinste",
+// "regelwerk", "regelwerk-ohne-ansagen", "regelwerk-nur-karten", "regelwerk1" (the rule book
+// before its whole following rule book, frozen for measuring), "zufall", "kleinste",
 // "suche" (character 3) and its parts for measuring: "suche-regelansagen" (announces only
 // by the rule book), "suche-ungewichtet" (deals not weighted), "suche-ohne-endspiel";
 // nullptr for an unknown name.

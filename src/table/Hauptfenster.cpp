@@ -62,6 +62,7 @@ void Hauptfenster::menuesAnlegen() {
     statistik_ = aktion(spiel, t(lerntext::StatistikMenue), "m_statistik");
     spiel->addSeparator();
     einstellungen_ = aktion(spiel, t(texte::EinstellungenMenue), "m_einstellungen");
+    foyer_ = aktion(spiel, t(texte::FoyerMenue), "m_foyer");
     netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "m_netzprotokoll");
     netzprotokoll_->setEnabled(false);  // network play is later work
     spiel->addSeparator();
@@ -150,10 +151,18 @@ void Hauptfenster::automatikEintragZeigen(bool an) { automatik_->setVisible(an);
 int Hauptfenster::msgBoxModus() const { return msgboxen_->isChecked() ? 1 : 3; }
 
 void Hauptfenster::m_neue_partie_click() {
-    if (partieUnterwegs_ &&
-        QMessageBox::question(this, windowTitle(), t(engine::ablauftext::PartieAbbrechen), QMessageBox::Yes | QMessageBox::No) !=
-            QMessageBox::Yes)
-        return;
+    if (partieUnterwegs_) {
+        emit frageOffen(true);
+        QMessageBox frage(QMessageBox::Question, windowTitle(), t(engine::ablauftext::PartieAbbrechen),
+                          QMessageBox::Yes | QMessageBox::No, this);
+        // Only a deliberate Yes throws the Partie away: Enter (a key held from the last
+        // box, or pressed once too often) and Escape keep it.
+        frage.setDefaultButton(QMessageBox::No);
+        frage.setEscapeButton(QMessageBox::No);
+        const bool abbrechen = frage.exec() == QMessageBox::Yes;
+        emit frageOffen(false);
+        if (!abbrechen) return;
+    }
     emit neuePartieBestaetigt();
     emit neuePartieGewuenscht();
 }
@@ -165,18 +174,16 @@ void Hauptfenster::beendenPruefen() {
     pruefung();
 }
 
-void Hauptfenster::SubPrgBeenden() {
-    beendenPruefen();
-    beendenBestaetigt_ = true;
-    emit beendenGewuenscht();
-    close();
-}
+void Hauptfenster::SubPrgBeenden() { close(); }
 
+// "&Ende" and the window's close button both end here.
 void Hauptfenster::closeEvent(QCloseEvent* event) {
-    if (!beendenBestaetigt_) {
-        beendenPruefen();
-        emit beendenGewuenscht();
+    if (beendenPruefung_ && !beendenPruefung_()) {
+        event->ignore();
+        return;
     }
+    beendenPruefen();
+    emit beendenGewuenscht();
     event->accept();
 }
 

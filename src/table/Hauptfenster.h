@@ -40,6 +40,8 @@ public:
     QAction* ladenAktion() const { return laden_; }
     QAction* speichernAktion() const { return speichern_; }
     QAction* einstellungenAktion() const { return einstellungen_; }
+    // "Internet-Foyer...": whoever runs the foyer connects to it.
+    QAction* foyerAktion() const { return foyer_; }
     QAction* vollbildAktion() const { return vollbild_; }
     QAction* regelnAktion() const { return regeln_; }
     QAction* turnierpartieAktion() const { return turnierpartie_; }
@@ -66,6 +68,8 @@ public:
     int msgBoxModus() const;
     // Whether "&Neue Partie" has to ask before it throws the running Partie away.
     void setzePartieUnterwegs(bool unterwegs) { partieUnterwegs_ = unterwegs; }
+    // Asked before the program ends ("&Ende" or closing the window); false keeps it open.
+    void setzeBeendenPruefung(std::function<bool()> pruefung) { beendenPruefung_ = std::move(pruefung); }
     // Runs once when the program is about to end, before anything is written back
     // (the question about unsent tournament results).
     void setzeVorDemBeenden(std::function<void()> pruefung) { vorDemBeenden_ = std::move(pruefung); }
@@ -84,6 +88,8 @@ signals:
     // "&Tipp" (H): which card the strong player would play, and why.
     void tippGewuenscht();
     void beendenGewuenscht();
+    // A question of the window is open (true) or closed again: the game waits meanwhile.
+    void frageOffen(bool offen);
 
 public slots:
     // "&Neue Partie": asks before a running Partie is abandoned.
@@ -114,6 +120,7 @@ private:
     QAction* laden_ = nullptr;
     QAction* speichern_ = nullptr;
     QAction* einstellungen_ = nullptr;
+    QAction* foyer_ = nullptr;
     QAction* netzprotokoll_ = nullptr;
     QAction* vollbild_ = nullptr;
     QAction* regeln_ = nullptr;
@@ -127,7 +134,7 @@ private:
     QAction* alleKarten_ = nullptr;
     QAction* gespielteKarten_ = nullptr;
     bool partieUnterwegs_ = false;
-    bool beendenBestaetigt_ = false;
+    std::function<bool()> beendenPruefung_;
 };
 
 }  // namespace table

@@ -99,8 +99,9 @@ void Lernhilfen::alleKartenZeigen(bool an) {
 
 void Lernhilfen::gespielteKartenZeigen() {
     if (!uebersicht_) {
-        uebersicht_ = new Kartenuebersicht(hfo_.bilder(), steuerung_.spiel(), &hfo_);
-        uebersicht_->resize(uebersicht_->sizeHint());
+        auto* neu = new Kartenuebersicht(hfo_.bilder(), steuerung_.spiel(), &hfo_);
+        neu->resize(neu->sizeHint());
+        uebersicht_ = neu;
     }
     uebersicht_->show();
     uebersicht_->raise();

@@ -8,7 +8,7 @@ Tempo tempoFuer(int stufe) {
         case TempoAus: return {550, 1100, 0, 0};
         case TempoSchnell: return {300, 650, 150, 190};
         case TempoLangsam: return {900, 1800, 430, 520};
-        default: return {550, 1100, 260, 320};
+        default: return {550, 1500, 260, 320};  // the trick's winner stays marked long enough to see
     }
 }
 

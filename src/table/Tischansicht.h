@@ -55,7 +55,12 @@ public:
     int ausgewaehlt() const { return ausgewaehlt_; }
     // Puts the keyboard cursor on a card of seat 1 and lifts it (the hint); Enter plays it.
     void setzeAusgewaehlt(int pos);
+    // The layout in the table's own coordinates; painted scaled by massstab().
     Tischlayout layout() const;
+    // Below its minimum size the table is drawn smaller as a whole, so nothing is cut off.
+    qreal massstab() const;
+    // The deck position of the card that wins the full trick on the table, 0 for none.
+    int stichgewinnerKarte() const;
 
     QSize sizeHint() const override { return {1024, 720}; }
     QSize minimumSizeHint() const override { return {640, 460}; }
@@ -84,6 +89,8 @@ private:
     void tischMalen(QPainter& maler) const;
     void karteMalen(QPainter& maler, const Kartenplatz& platz, QSizeF groesse, const QPixmap& bild) const;
     void sitzMalen(QPainter& maler, const Tischlayout& layout, engine::Sitz sitz) const;
+    void ansagenMalen(QPainter& maler, const Tischlayout& layout, engine::Sitz sitz) const;
+    void spieleckeMalen(QPainter& maler, const Tischlayout& layout) const;
     void offeneHandMalen(QPainter& maler, const Tischlayout& layout, engine::Sitz sitz) const;
     void stichMalen(QPainter& maler, const Tischlayout& layout) const;
     void bewegungMalen(QPainter& maler, const Tischlayout& layout) const;

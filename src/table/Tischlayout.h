@@ -46,8 +46,15 @@ public:
     // Name plate (name, Augen) and the party picture beside it.
     QRectF namensschild(engine::Sitz sitz) const;
     QRectF parteibild(engine::Sitz sitz) const;
+    // The seat's announcements (the first two) next to its party picture.
+    QRectF ansageschild(engine::Sitz sitz, int nr) const;
+    // The quiet corner top right for the game type, number, dealer and Vorhand.
+    QRectF spielecke() const;
 
 private:
+    // Height of the top row (seat 3's hand and plate); the side columns begin below it.
+    qreal kopfzeile() const;
+
     QSizeF flaeche_;
     QSizeF karte_;
     QSizeF klein_;

@@ -52,6 +52,15 @@ public:
     // The state a saved file gets (also for tests).
     savegame::Spielstand spielstand() const;
 
+    // The file that always holds the running Partie (empty: none is kept); the
+    // welcome screen offers to resume it. The program's own lies in the data folder.
+    void setzeSicherungsdatei(const QString& pfad) { sicherung_ = pfad; }
+    const QString& sicherungsdatei() const { return sicherung_; }
+    static QString standardSicherungsdatei();
+
+    // Before the program ends: during a Partie the person may save it or stay.
+    bool beendenPruefen();
+
 signals:
     // Sound options or card names changed; the sound player follows.
     void einstellungenUebernommen(const settings::Einstellungen& e);
@@ -65,6 +74,8 @@ public slots:
     void einstellungenZeigen();
     void regelnZeigen();
     void m_partie_speichern_Click();
+    // Keeps the running Partie in the automatic save, or removes it once the Partie is over.
+    void sichern();
     void m_partie_laden_Click();
     // The loading flow for a file: its messages, the finished-game question, resuming.
     void partieLaden(const QString& pfad);
@@ -72,6 +83,8 @@ public slots:
 private:
     std::optional<engine::Kartenverteilung> kartenGeben(const engine::Spiel& spiel);
     void menueAnpassen();
+    // The save dialog for `stand`; false when cancelled or not written.
+    bool speichernUnter(const savegame::Spielstand& stand);
 
     Hauptfenster& hfo_;
     Tischsteuerung& steuerung_;
@@ -84,6 +97,9 @@ private:
     std::unique_ptr<Lernhilfen> lernhilfen_;
     int tempostufe_ = -1;  // the "Tempo" last taken over
     bool manuellErlaubt_ = true;
+    QString sicherung_;
+    std::optional<savegame::Spielstand> letzterStand_;  // the last state a file can hold
+    bool ohneFrageBeenden_ = false;                      // after a reset of the settings
 };
 
 }  // namespace table

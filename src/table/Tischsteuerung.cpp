@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include <QAction>
+#include <QApplication>
+#include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -46,11 +48,11 @@ std::vector<int> codesVon(const engine::Spiel& spiel, const std::vector<int>& po
 
 template <class F>
 auto Tischsteuerung::modal(F&& zeigen) {
-    imDialog_ = true;
+    ++dialoge_;
     struct Ende {
-        bool& offen;
-        ~Ende() { offen = false; }
-    } ende{imDialog_};
+        int& offen;
+        ~Ende() { --offen; }
+    } ende{dialoge_};
     return zeigen();
 }
 
@@ -87,6 +89,7 @@ Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufall
         weiter();
     });
     connect(&hfo_, &Hauptfenster::neuePartieGewuenscht, this, &Tischsteuerung::neuePartie);
+    connect(&hfo_, &Hauptfenster::frageOffen, this, &Tischsteuerung::dialogOffen);
     connect(&hfo_, &Hauptfenster::automatikGewuenscht, this, &Tischsteuerung::automatikUmschalten);
     connect(&hfo_, &Hauptfenster::reKontraGewuenscht, this, &Tischsteuerung::reKontra);
     connect(&hfo_, &Hauptfenster::limitGewuenscht, this, &Tischsteuerung::limit);
@@ -261,12 +264,14 @@ void Tischsteuerung::ablaufZuruecksetzen() {
     einsammelnLaeuft_ = false;
     partieendeGemeldet_ = false;
     zugGemeldet_ = -1;
+    gemeldeterStand_ = {-1, -1, -1};
     meldungen_.clear();
 }
 
 void Tischsteuerung::neuePartie() {
     ablaufZuruecksetzen();
     zeilen_.clear();
+    angaben_.clear();
     letztesSpiel_ = engine::Spiel{};
     letzteBegruendungen_ = {};
     hfo_.partieendeAnzeigen(false);
@@ -297,6 +302,7 @@ void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
     const bool schonGewertet = spiel_.ergebnis.gewertet;
     // The score sheet of the Partie so far, as far as the table of games holds it.
     zeilen_.clear();
+    angaben_.clear();
     const int gespielt = std::min(spiel_.partie.spielNr - (schonGewertet ? 0 : 1),
                                   static_cast<int>(spiel_.partie.spieltabelle.size()));
     if (spiel_.regeln.abrOption == 2)
@@ -314,7 +320,7 @@ void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
 }
 
 void Tischsteuerung::dialogOffen(bool offen) {
-    imDialog_ = offen;
+    dialoge_ = std::max(0, dialoge_ + (offen ? 1 : -1));
     if (!offen) weiter();
 }
 
@@ -324,6 +330,22 @@ bool Tischsteuerung::speicherbar() const {
     return p == Spielphase::Kartenspiel || p == Spielphase::StichVoll || p == Spielphase::Partieende;
 }
 
+bool Tischsteuerung::partieOffen() const {
+    return ablauf_.partieLaeuft() && spiel_.ablauf.phase != engine::Spielphase::Partieende;
+}
+
+// Once per card, trick, scored game and end of Partie, for the automatic save.
+void Tischsteuerung::standMelden() {
+    using engine::Spielphase;
+    const Spielphase p = spiel_.ablauf.phase;
+    if (!speicherbar() && p != Spielphase::Spielende) return;
+    const std::tuple<int, int, int> stand{spiel_.partie.spielNr, spiel_.sticheGespielt * 4 + spiel_.stich.anzahl,
+                                          static_cast<int>(p)};
+    if (stand == gemeldeterStand_) return;
+    gemeldeterStand_ = stand;
+    emit standGeaendert();
+}
+
 void Tischsteuerung::planen(int ms, void (Tischsteuerung::*schritt)()) {
     if (geplant_) return;
     geplant_ = true;
@@ -331,7 +353,7 @@ void Tischsteuerung::planen(int ms, void (Tischsteuerung::*schritt)()) {
     QTimer::singleShot(ms, this, [this, nr, schritt] {
         if (nr != schritt_) return;  // a new Partie began meanwhile
         geplant_ = false;
-        if (imDialog_) return;       // planned again when the dialog closes
+        if (imDialog()) return;      // planned again when the dialog closes
         (this->*schritt)();
     });
 }
@@ -346,7 +368,8 @@ void Tischsteuerung::meldungenZeigen() {
     while (!meldungen_.empty()) {
         const engine::Meldung m = meldungen_.front();
         meldungen_.erase(meldungen_.begin());
-        if (!optionen_.boxen || (m.titel.empty() && m.text.empty())) {
+        // Automatic play does not stop for the game's messages: they pass in the status line.
+        if (!optionen_.boxen || spiel_.automatik || (m.titel.empty() && m.text.empty())) {
             hfo_.statusSetzen(t(m.text));
             continue;
         }
@@ -357,11 +380,14 @@ void Tischsteuerung::meldungenZeigen() {
 // One step of the game: show the state, then answer the open request or wait for
 // the person, a timer or an animation.
 void Tischsteuerung::weiter() {
-    if (beschaeftigt_ || imDialog_ || geplant_) return;
+    if (beschaeftigt_ || imDialog() || geplant_) return;
+    // The table and status line as they stand behind the boxes that come now.
+    if (!meldungen_.empty() || !begruendungen_.leer()) anzeigen(ablauf_.anfrage());
     meldungenZeigen();
     begruendungenZeigen();
     const Anfrage a = ablauf_.anfrage();
     anzeigen(a);
+    standMelden();
     const bool mensch = menschGefragt(a);
     switch (a.art) {
         case Anfrageart::Geben:
@@ -431,10 +457,9 @@ void Tischsteuerung::begruendungenZeigen() {
 }
 
 engine::ProSitz<int> Tischsteuerung::parteibilder() const {
-    // Until the first trick is taken every seat shows the picture of an unknown party.
+    const engine::ProSitz<int> parteien = sichtbareParteien(spiel_, wissen_.zeigerBild);
     engine::ProSitz<int> bilder;
-    for (const Sitz s : engine::alleSitze)
-        bilder[s] = wissen_.zeigerBild[s] > 0 ? wissen_.zeigerBild[s] : players::parteibild(s, engine::ParteiUnbekannt);
+    for (const Sitz s : engine::alleSitze) bilder[s] = players::parteibild(s, parteien[s]);
     return bilder;
 }
 
@@ -532,7 +557,7 @@ void Tischsteuerung::karteGelegt(int pos, Sitz sitz) {
 
 void Tischsteuerung::karteGewaehlt(int pos) {
     const Anfrage a = ablauf_.anfrage();
-    if (a.art != Anfrageart::Karte || !menschGefragt(a) || beschaeftigt_ || imDialog_) return;
+    if (a.art != Anfrageart::Karte || !menschGefragt(a) || beschaeftigt_ || imDialog()) return;
     const engine::Bescheid b = ablauf_.antworten(Antwort::karte(pos));
     if (!b) {
         // The card stays in the hand; the person chooses again.
@@ -550,13 +575,15 @@ void Tischsteuerung::einsammeln() {
 }
 
 void Tischsteuerung::stichGeklickt() {
-    if (ablauf_.anfrage().art != Anfrageart::StichEinsammeln || beschaeftigt_ || imDialog_ || geplant_) return;
+    if (ablauf_.anfrage().art != Anfrageart::StichEinsammeln || beschaeftigt_ || imDialog() || geplant_) return;
     einsammeln();
 }
 
 void Tischsteuerung::spielendeZeigen() {
     const engine::Spielergebnis& e = spiel_.ergebnis;
     zeilen_.push_back(e.punkte);
+    angaben_.resize(zeilen_.size() - 1);
+    angaben_.push_back(spielangaben(spiel_, engine::franzoesischeBilder(optionen_.kartenbild)));
     letztesSpiel_ = spiel_;
     letzteBegruendungen_ = protokoll_.spiel();
     Spielergebnis r;
@@ -567,6 +594,13 @@ void Tischsteuerung::spielendeZeigen() {
     r.summen = spiel_.partie.punkte;
     modal([&] {
         Spielendedialog box(r, &hfo_);
+        // Automatic play lets the result be read, then goes on by itself, unless the
+        // person opened something from the box meanwhile.
+        QTimer schliessen;
+        connect(&schliessen, &QTimer::timeout, &box, [&box] {
+            if (QApplication::activeModalWidget() == &box) box.accept();
+        });
+        if (spiel_.automatik) schliessen.start(tempo_.spielende);
         if (verlaufZeigen_) box.verlaufAnbieten([this, &box] { verlaufZeigen_(&box); });
         box.exec();
     });
@@ -610,6 +644,7 @@ Spielzettelinhalt Tischsteuerung::spielzettelInhalt() const {
     Spielzettelinhalt inhalt;
     inhalt.namen = spiel_.namen;
     inhalt.spiele = zeilen_;
+    inhalt.angaben = angaben_;
     inhalt.summen = spiel_.partie.punkte;
     inhalt.abrOption = spiel_.regeln.abrOption;
     inhalt.endeBei = spiel_.regeln.endeBei;
@@ -624,6 +659,9 @@ void Tischsteuerung::spielzettelZeigen() {
     zettel->setzeInhalt(spielzettelInhalt());
     auto* spalte = new QVBoxLayout(&dialog);
     spalte->addWidget(zettel);
+    auto* knoepfe = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
+    connect(knoepfe, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    spalte->addWidget(knoepfe);
     modal([&] { dialog.exec(); });
     weiter();
 }

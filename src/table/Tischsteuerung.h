@@ -10,10 +10,12 @@
 #include <memory>
 #include <optional>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 #include "Anzeigeoptionen.h"
 #include "Begruendungsanzeige.h"
+#include "Spielanzeige.h"
 #include "Spielzettel.h"
 #include "engine/Geben.h"
 #include "engine/Meldung.h"
@@ -37,9 +39,10 @@ class Stichbetrachter;
 // card flies to the trick and a trick to its winner (milliseconds; see Tempostufen.h).
 struct Tempo {
     int karte = 550;
-    int stich = 1100;
+    int stich = 1500;  // long enough to see the marked winner of the trick
     int flug = 260;
     int einsammeln = 320;
+    int spielende = 4500;  // the end box during automatic play, then it closes by itself
 };
 
 class Tischsteuerung : public QObject, public engine::Meldungssenke {
@@ -73,6 +76,8 @@ public:
     void dialogOffen(bool offen);
     // Whether the state is one a saved game can hold (cards are being played, or the Partie is over).
     bool speicherbar() const;
+    // A Partie is under way and not yet over: ending the program would lose it.
+    bool partieOffen() const;
 
     const engine::Spiel& spiel() const { return spiel_; }
     // The last scored game (its tricks stay viewable while the next one runs).
@@ -86,6 +91,8 @@ public:
     const players::Tischwissen& wissen() const { return wissen_; }
     // The score sheet rows of the running Partie, one per scored game.
     const std::vector<engine::ProSitz<int>>& spielzettelZeilen() const { return zeilen_; }
+    // What each of those games was (empty for games of a loaded Partie).
+    const std::vector<Spielangaben>& spielzettelAngaben() const { return angaben_; }
     Spielzettelinhalt spielzettelInhalt() const;
 
     void meldung(const engine::Meldung& m) override;
@@ -98,6 +105,8 @@ signals:
     // A game was scored and its end box closed.
     void spielGewertet();
     void partieBeendet();
+    // The game moved on to a state worth keeping (a card, a trick, a score, the end).
+    void standGeaendert();
 
 public slots:
     void weiter();
@@ -146,6 +155,8 @@ private:
     void zustandUebernehmen(const engine::Spiel& stand);
     void einsammeln();
     void spielendeZeigen();
+    bool imDialog() const { return dialoge_ > 0; }
+    void standMelden();
     void sticheZeigen(const engine::Spiel& spiel, const std::vector<engine::StichProtokoll>& stiche);
     void ansageBescheid(const engine::Bescheid& b);
     engine::Entscheider& entscheider(engine::Sitz sitz);
@@ -166,15 +177,17 @@ private:
     Kartengeber kartengeber_;
     std::vector<engine::Meldung> meldungen_;
     std::vector<engine::ProSitz<int>> zeilen_;
+    std::vector<Spielangaben> angaben_;
     engine::Spiel letztesSpiel_;  // the last scored game, for its tricks
     players::Spielbegruendungen letzteBegruendungen_;
     std::function<void(QWidget*)> verlaufZeigen_;
     bool geplant_ = false;        // a step is scheduled
     bool beschaeftigt_ = false;   // a card flies or a trick is being collected
-    bool imDialog_ = false;       // a modal dialog of ours is open
+    int dialoge_ = 0;             // modal dialogs open (ours and the program's, one may open over another)
     bool einsammelnLaeuft_ = false;
     bool partieendeGemeldet_ = false;
     int zugGemeldet_ = -1;        // the card count at which seat 1's turn was last signalled
+    std::tuple<int, int, int> gemeldeterStand_{-1, -1, -1};  // game, cards, phase of the last standGeaendert
     int schritt_ = 0;             // counts Partien, so a timer of an abandoned one does nothing
     int bedenkzeit_ = 500;
     std::thread denker_;          // a computer seat thinking

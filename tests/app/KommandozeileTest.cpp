@@ -20,6 +20,12 @@ TEST(Kommandozeile, GueltigeAufrufe) {
     EXPECT_EQ(a.aufruf->spieler, (std::vector<std::string>{"regelwerk", "zufall"}));
     EXPECT_EQ(a.aufruf->bedenkzeit, 50);
 
+    a = kommandozeileAuswerten({"--foyer", "irc.example:6667", "--name", "Anna", "--auto", "--take-seat", "--games", "3"});
+    ASSERT_TRUE(a.aufruf) << a.fehler;
+    EXPECT_EQ(a.aufruf->modus, Modus::Foyer);
+    EXPECT_EQ(a.aufruf->foyerAdresse, "irc.example:6667");
+    EXPECT_EQ(a.aufruf->foyerrolle, app::Foyerrolle::PlatzNehmen);
+
     a = kommandozeileAuswerten({});
     ASSERT_TRUE(a.aufruf);
     EXPECT_EQ(a.aufruf->modus, Modus::Spiel);
@@ -28,7 +34,7 @@ TEST(Kommandozeile, GueltigeAufrufe) {
 TEST(Kommandozeile, FehlerWerdenGemeldet) {
     const std::vector<std::vector<std::string>> falsch{
         {"--autoplay"}, {"--autoplay", "x"}, {"--autoplay", "-3"}, {"--seed", "1a"}, {"--players", "a"},
-        {"--port", "70000"}, {"--gibtsnicht"}, {"--games", "0"}, {"--bedenkzeit", "0"}};
+        {"--port", "70000"}, {"--gibtsnicht"}, {"--games", "0"}, {"--foyer"}, {"--bedenkzeit", "0"}};
     for (const auto& args : falsch) {
         const auto a = kommandozeileAuswerten(args);
         EXPECT_FALSE(a.aufruf) << args[0];

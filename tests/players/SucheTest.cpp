@@ -99,7 +99,7 @@ TEST(Suche, GezogeneWeltenStimmenMitDerSichtUeberein) {
 }
 
 TEST(Suche, VerdeckteKartenVertauschtGibtDieselbeKarte) {
-    const auto alle = stellungen(2);
+    const auto alle = stellungen(4);
     engine::SeedZufall mischer(9);
     players::Starkart art;
     art.suche.simulationen = 60;

@@ -3,7 +3,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QLabel>
+#include <QTest>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -312,8 +314,8 @@ TEST_F(EinstellformTest, BilderDerReiter) {
 
 TEST(Dateiwahl, FilterUndDialog) {
     const struct { const char* klassisch; const char* qt; } filter[] = {
-        {"Doppelkopf-INI-Datei (*.dki)|*.dki|Alle Dateien(*.*)|*.*", "Doppelkopf-INI-Datei (*.dki);;Alle Dateien(*.*)"},
-        {"Doppelkopf-Partie (*.DKP)|*.dkp|Alle Dateien (*.*)|*.*", "Doppelkopf-Partie (*.DKP);;Alle Dateien (*.*)"},
+        {"Doppelkopf-INI-Datei (*.dki)|*.dki|Alle Dateien(*.*)|*.*", "Doppelkopf-INI-Datei (*.dki *.DKI);;Alle Dateien(*.*)"},
+        {"Doppelkopf-Partie (*.DKP)|*.dkp|Alle Dateien (*.*)|*.*", "Doppelkopf-Partie (*.DKP *.dkp);;Alle Dateien (*.*)"},
     };
     for (const auto& f : filter) EXPECT_EQ(table::qtFilter(f.klassisch), QString::fromUtf8(f.qt));
 
@@ -335,8 +337,43 @@ TEST(Dateiwahl, FilterUndDialog) {
                   "Doppelkopf-Partie (*.dkp)|*.dkp|Alle Dateien(*.*)|*.*", "dkp"});
     EXPECT_TRUE(gewaehlt.isEmpty());
     EXPECT_EQ(titel, QStringLiteral("Doppelkopf-Partie speichern"));
-    EXPECT_EQ(filterListe, (QStringList{QStringLiteral("Doppelkopf-Partie (*.dkp)"), QStringLiteral("Alle Dateien(*.*)")}));
+    EXPECT_EQ(filterListe, (QStringList{QStringLiteral("Doppelkopf-Partie (*.dkp *.DKP)"), QStringLiteral("Alle Dateien(*.*)")}));
     EXPECT_EQ(endung, QStringLiteral("dkp"));
+}
+
+// Files named in either case are offered, whichever case the filter text uses.
+TEST(Dateiwahl, EndungInJederSchreibweise) {
+    QTemporaryDir ordner;
+    for (const char* name : {"klein.dkp", "GROSS.DKP", "anders.txt"}) {
+        QFile f(ordner.filePath(QString::fromLatin1(name)));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    }
+    for (const bool laden : {true, false}) {
+        QStringList gezeigt;
+        testhilfe::modalBeantworten([&](QWidget* w) {
+            auto* d = qobject_cast<QFileDialog*>(w);
+            if (!d) return;
+            auto* modell = d->findChild<QFileSystemModel*>();
+            const QModelIndex wurzel = modell->index(ordner.path());
+            if (!QTest::qWaitFor([&] { return modell->rowCount(wurzel) > 0; }, 5000)) return d->reject();
+            // Let the proxy settle: a file the filter refuses is hidden, not removed.
+            QTest::qWait(50);
+            for (int i = 0; i < modell->rowCount(wurzel); ++i) {
+                const QModelIndex index = modell->index(i, 0, wurzel);
+                if (!(modell->flags(index) & Qt::ItemIsEnabled)) continue;
+                gezeigt << modell->fileName(index);
+            }
+            d->reject();
+        });
+        table::Dateidialoge dialoge;
+        const table::Dateifrage frage{QStringLiteral("Titel"), ordner.path(),
+                                      laden ? "Doppelkopf-Partie (*.DKP)|*.dkp|Alle Dateien (*.*)|*.*"
+                                            : "Doppelkopf-Partie (*.dkp)|*.dkp|Alle Dateien(*.*)|*.*",
+                                      "dkp"};
+        laden ? dialoge.oeffnen(nullptr, frage) : dialoge.speichern(nullptr, frage);
+        gezeigt.sort();
+        EXPECT_EQ(gezeigt, (QStringList{QStringLiteral("GROSS.DKP"), QStringLiteral("klein.dkp")})) << laden;
+    }
 }
 
 }  // namespace

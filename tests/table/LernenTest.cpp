@@ -63,7 +63,9 @@ TEST(Spielverlauf, JederStichMitDenHaendenDavorUndDenGruenden) {
                 const std::string name = g.spiel.namen[a.sitz] + ":";
                 const bool hier = std::any_of(s.zeilen.begin(), s.zeilen.end(),
                                               [&](const std::string& z) { return z.rfind(name, 0) == 0; });
-                if (a.stich == k - 1) EXPECT_TRUE(hier) << seed << " Stich " << k;
+                if (a.stich == k - 1) {
+                    EXPECT_TRUE(hier) << seed << " Stich " << k;
+                }
             }
             const long punkte = std::count_if(g.spiel.sonderpunkte.begin(), g.spiel.sonderpunkte.end(),
                                               [&](const engine::Sonderpunkt& p) { return p.stich == k; });

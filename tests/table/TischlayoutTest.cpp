@@ -11,7 +11,8 @@ using table::Tischlayout;
 struct Teil { std::string name; QPolygonF umriss; };
 
 // Every piece on a full table: the own fan (lifted as high as a selected card
-// goes), the three other hands (face down or open), a full trick, name plates and party pictures.
+// goes), the three other hands (face down or open), a full trick, name plates, party
+// pictures, two announcements per seat and the game corner.
 std::vector<std::vector<Teil>> gruppen(const Tischlayout& l, int handgroesse, bool offen) {
     std::vector<std::vector<Teil>> g(4);
     int i = 0;
@@ -30,7 +31,10 @@ std::vector<std::vector<Teil>> gruppen(const Tischlayout& l, int handgroesse, bo
     for (const Sitz s : engine::alleSitze) {
         g[3].push_back({"Schild " + std::to_string(s.nr()), QPolygonF(l.namensschild(s))});
         g[3].push_back({"Parteibild " + std::to_string(s.nr()), QPolygonF(l.parteibild(s))});
+        for (int nr = 0; nr < 2; ++nr)
+            g[3].push_back({"Ansage " + std::to_string(s.nr()) + "/" + std::to_string(nr), QPolygonF(l.ansageschild(s, nr))});
     }
+    g[3].push_back({"Spielecke", QPolygonF(l.spielecke())});
     return g;
 }
 
@@ -77,6 +81,9 @@ TEST(Tischlayout, JedeHandkarteBleibtLesbar) {
         // The trick cards are as large as the own cards, the backs smaller.
         EXPECT_LT(l.kleineKarte().height(), l.kartengroesse().height());
         EXPECT_GE(l.kartengroesse().height(), 0.2 * std::min<double>(f.hoehe, f.breite * 0.75)) << f.breite << "x" << f.hoehe;
+        // Five lines of small print fit into the game corner.
+        EXPECT_GE(l.spielecke().height(), 5 * 11) << f.breite << "x" << f.hoehe;
+        EXPECT_GE(l.spielecke().width(), 180) << f.breite << "x" << f.hoehe;
     }
 }
 

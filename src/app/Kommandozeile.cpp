@@ -69,6 +69,11 @@ Auswertung kommandozeileAuswerten(const std::vector<std::string>& argumente) {
             if (!wert(text)) return fehler("--players braucht zwei Spielerarten, etwa regelwerk,zufall");
             a.spieler = teilen(text, ',');
             if (a.spieler.size() != 2) return fehler("--players braucht genau zwei Spielerarten");
+        } else if (arg == "--bedenkzeit") {
+            int ms = 0;
+            if (!wert(text) || !zahlLesen(text, ms) || ms < 1 || ms > 600000)
+                return fehler("--bedenkzeit braucht Millisekunden von 1 bis 600000");
+            a.bedenkzeit = ms;
         } else if (arg == "--host") {
             a.modus = Modus::Host;
         } else if (arg == "--join") {
@@ -130,8 +135,8 @@ std::string hilfetext() {
            "  trumpona --load DATEI.dkp             mit einer gespeicherten Partie beginnen\n"
            "  trumpona --autoplay N [--seed S] [--rules DATEI] [--json DATEI|-] [--stats]\n"
            "                                        ohne Fenster: vier Computerspieler spielen N Spiele\n"
-           "  trumpona --tournament N --players A,B [--seed S] [--rules DATEI]\n"
-           "                                        Turnier zweier Spielerarten\n"
+           "  trumpona --tournament N --players A,B [--seed S] [--rules DATEI] [--bedenkzeit MS]\n"
+           "                                        Turnier zweier Spielerarten (suche: MS je Entscheidung)\n"
            "  trumpona --screenshot DATEI [--seed S]  den Tisch als PNG speichern\n"
            "  trumpona --host [--port P] [--name NAME]  am Tischfenster einen Netzwerktisch eröffnen\n"
            "  trumpona --join HOST[:PORT] --name NAME   am Tischfenster an einem Netzwerktisch Platz nehmen\n"

@@ -29,6 +29,7 @@ struct Aufruf {
     std::string name;                  // --name NAME
     bool automatisch = false;          // --auto
     int spiele = 0;                    // --games N
+    std::optional<int> bedenkzeit;     // --bedenkzeit MS (the searching player)
     int gaeste = 0;                    // --guests K
     std::optional<int> takt;           // --tick MS: the network pump interval
     std::string ergebnisOrdner;        // --upload-results --dir DIR

@@ -28,7 +28,8 @@ std::uint64_t dealSeed(std::uint64_t seed, int deal) {
 // One game on a fresh table: kind `ungerade` at seats 1 and 3, `gerade` at 2 and 4.
 // Returns the points of an odd seat minus those of an even seat.
 double spielen(const Turnierauftrag& auftrag, std::uint64_t seed, const std::string& ungerade,
-               const std::string& gerade, players::Regelstatistik* statistik, int& abgelehnt) {
+               const std::string& gerade, players::Regelstatistik* statistik, int& abgelehnt,
+               std::vector<double>& denkzeiten) {
     engine::Spiel spiel;
     for (const Sitz s : engine::alleSitze) {
         spiel.namen[s] = "Spieler" + std::to_string(s.nr());
@@ -37,10 +38,13 @@ double spielen(const Turnierauftrag& auftrag, std::uint64_t seed, const std::str
     engine::SeedZufall zufall(seed);
     engine::Spielablauf ablauf(spiel, zufall);
     ablauf.regelOptionenSetzen(auftrag.regeln);
-    const Computertisch tisch(ablauf, zufall, {ungerade, gerade, ungerade, gerade}, statistik);
+    const Computertisch tisch(ablauf, zufall, {ungerade, gerade, ungerade, gerade}, statistik, seed,
+                              auftrag.bedenkzeit);
     ablauf.neuePartie();
     engine::Selbstspiel selbstspiel(ablauf, tisch.entscheider());
     abgelehnt += selbstspiel.spielen(1).abgelehnt;
+    const std::vector<double> zeiten = tisch.denkzeiten();
+    denkzeiten.insert(denkzeiten.end(), zeiten.begin(), zeiten.end());
     const auto& punkte = spiel.ergebnis.punkte;
     return (punkte[Sitz(1)] + punkte[Sitz(3)]) / 2.0 - (punkte[Sitz(2)] + punkte[Sitz(4)]) / 2.0;
 }
@@ -72,8 +76,10 @@ Turnierergebnis turnier(const Turnierauftrag& auftrag, players::Regelstatistik* 
     paare.reserve(static_cast<std::size_t>(std::max(auftrag.deals, 0)));
     for (int d = 0; d < auftrag.deals; ++d) {
         const std::uint64_t seed = dealSeed(auftrag.seed, d);
-        const double hin = spielen(auftrag, seed, auftrag.a, auftrag.b, statistik, ergebnis.abgelehnt);
-        const double rueck = -spielen(auftrag, seed, auftrag.b, auftrag.a, statistik, ergebnis.abgelehnt);
+        const double hin = spielen(auftrag, seed, auftrag.a, auftrag.b, statistik, ergebnis.abgelehnt,
+                                  ergebnis.denkzeiten);
+        const double rueck = -spielen(auftrag, seed, auftrag.b, auftrag.a, statistik, ergebnis.abgelehnt,
+                                    ergebnis.denkzeiten);
         // The two games of a deal form one pair, so the luck of the cards cancels out.
         paare.push_back((hin + rueck) / 2.0);
         ergebnis.spiele += 2;
@@ -82,6 +88,17 @@ Turnierergebnis turnier(const Turnierauftrag& auftrag, players::Regelstatistik* 
     ergebnis.diff = m.mittel;
     ergebnis.ci95 = m.halbbreite;
     return ergebnis;
+}
+
+std::string denkzeitZeile(std::vector<double> zeiten) {
+    std::sort(zeiten.begin(), zeiten.end());
+    auto anteil = [&](double q) {
+        return zeiten[std::min(zeiten.size() - 1, static_cast<std::size_t>(q * static_cast<double>(zeiten.size())))];
+    };
+    char zeile[160];
+    std::snprintf(zeile, sizeof zeile, "Bedenkzeit je Entscheidung: Median %.0f ms, 99. Perzentil %.0f ms, %zu Entscheidungen",
+                  anteil(0.5), anteil(0.99), zeiten.size());
+    return zeile;
 }
 
 std::string turnierZeile(const Turnierauftrag& auftrag, const Turnierergebnis& e) {
@@ -102,12 +119,14 @@ int turnierStarten(const Aufruf& aufruf) {
         std::cerr << "\n";
         return 2;
     }
+    if (aufruf.bedenkzeit) auftrag.bedenkzeit = *aufruf.bedenkzeit;
     std::optional<settings::Einstellungen> optionen;
     if (!laufVorbereiten(aufruf, auftrag.seed, optionen)) return 2;
     if (optionen) auftrag.regeln = optionen->regeln;
     players::Regelstatistik statistik;
     const Turnierergebnis ergebnis = turnier(auftrag, aufruf.statistik ? &statistik : nullptr);
     if (aufruf.statistik) std::cout << statistik.bericht();
+    if (!ergebnis.denkzeiten.empty()) std::cout << denkzeitZeile(ergebnis.denkzeiten) << "\n";
     if (ergebnis.abgelehnt > 0) std::cout << "Abgelehnte Antworten: " << ergebnis.abgelehnt << "\n";
     std::cout << turnierZeile(auftrag, ergebnis) << "\n";
     return ergebnis.abgelehnt == 0 ? 0 : 1;

@@ -20,6 +20,7 @@ struct Turnierauftrag {
     engine::RegelOptionen regeln;
     std::string a;
     std::string b;
+    int bedenkzeit = 500;  // ms per decision of a searching kind
 };
 
 struct Turnierergebnis {
@@ -27,6 +28,7 @@ struct Turnierergebnis {
     double diff = 0;   // mean points per game of an A seat minus a B seat
     double ci95 = 0;   // half-width of the 95 % confidence interval
     int abgelehnt = 0; // answers the engine refused
+    std::vector<double> denkzeiten;  // ms per decision of the searching seats
 };
 
 // Mean and 95 % half-width of paired per-deal differences.
@@ -38,6 +40,8 @@ Mittelwert mittelwert(const std::vector<double>& werte);
 
 // `statistik` (optional) counts the rule book's reasoning of both kinds.
 Turnierergebnis turnier(const Turnierauftrag& auftrag, players::Regelstatistik* statistik = nullptr);
+// "Bedenkzeit je Entscheidung: Median ... ms, 99. Perzentil ... ms" (not empty).
+std::string denkzeitZeile(std::vector<double> zeiten);
 std::string turnierZeile(const Turnierauftrag& auftrag, const Turnierergebnis& ergebnis);
 
 // The --tournament mode; returns the exit status.

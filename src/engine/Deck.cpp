@@ -56,9 +56,7 @@ Rangierung farbspiel(int farbe, int rang, int spieltyp) {
     return {farbe == spieltyp ? spieltyp : farbe, staerke};
 }
 
-}  // namespace
-
-Rangierung rangierung(int code, int spieltyp) {
+Rangierung rangierungBerechnen(int code, int spieltyp) {
     if (istJoker(code)) {
         return istFarbspiel(spieltyp) ? Rangierung{spieltyp, StaerkeJoker} : Rangierung{Karo, 1};
     }
@@ -97,6 +95,22 @@ Rangierung rangierung(int code, int spieltyp) {
         default:
             return farbspiel(farbe, rang, spieltyp);
     }
+}
+
+}  // namespace
+
+Rangierung rangierung(int code, int spieltyp) {
+    // Asked for every card at every deal and by the solo estimates: looked up, not worked out.
+    static const auto tabelle = [] {
+        std::array<std::array<Rangierung, SoloOhneTrumpf + 1>, 26> t{};
+        for (int c = 1; c <= 25; ++c)
+            for (int typ = Normalspiel; typ <= SoloOhneTrumpf; ++typ)
+                t[static_cast<std::size_t>(c)][static_cast<std::size_t>(typ)] = rangierungBerechnen(c, typ);
+        return t;
+    }();
+    if (code < 1 || code > 25 || spieltyp < Normalspiel || spieltyp > SoloOhneTrumpf)
+        return rangierungBerechnen(code, spieltyp);
+    return tabelle[static_cast<std::size_t>(code)][static_cast<std::size_t>(spieltyp)];
 }
 
 }  // namespace engine

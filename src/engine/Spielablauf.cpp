@@ -4,6 +4,7 @@
 
 #include "Neugeben.h"
 #include "Sonderpunkte.h"
+#include "Spielzug.h"
 #include "Stichspiel.h"
 #include "Wertung.h"
 #include "Zufall.h"
@@ -290,30 +291,21 @@ Bescheid Spielablauf::karteAnnehmen(int pos) {
 }
 
 void Spielablauf::stichAuswerten() {
-    const Stich& stich = spiel_.stich;
-    StichProtokoll p;
-    p.aufspieler = stich.aufspieler;
-    p.karten = stich.karten;
-    for (std::size_t i = 0; i < 4; ++i) {
-        p.codes[i] = spiel_.deck[stich.karten[i]].code;
-        p.augen += spiel_.deck[stich.karten[i]].augen;
-    }
-    p.gewinner = stichGewinner(spiel_);
-    spiel_.stiche.push_back(p);
-    const int nr = ++spiel_.sticheGespielt;
-    spiel_.augen[p.gewinner] += p.augen;
-    ++spiel_.stichzahl[p.gewinner];
+    const StichProtokoll& p = stichBuchen(spiel_);
+    const Sitz gewinner = p.gewinner;
+    const int nr = spiel_.sticheGespielt;
 
     if (auto m = hochzeitKlaeren(spiel_)) {
         melden(*m);
         parteienBekannt();
     }
+    // The texts of the special points are built only for somebody who shows them.
     std::vector<Meldung> meldungen;
-    const auto punkte = sonderpunkteDesStichs(spiel_, nr, &meldungen);
+    const auto punkte = sonderpunkteDesStichs(spiel_, nr, senke_ ? &meldungen : nullptr);
     spiel_.sonderpunkte.insert(spiel_.sonderpunkte.end(), punkte.begin(), punkte.end());
     melden(meldungen);
     spiel_.ablauf.phase = Spielphase::StichVoll;
-    for (Spielbeobachter* b : beobachter_) b->stichKomplett(spiel_, p.gewinner);
+    for (Spielbeobachter* b : beobachter_) b->stichKomplett(spiel_, gewinner);
 }
 
 void Spielablauf::parteienBekannt() {
@@ -339,7 +331,7 @@ void Spielablauf::stichEinsammeln() {
 Bescheid Spielablauf::ansagen(Sitz sitz, const Ansage& ansage) {
     if (auto grund = ansageVerweigert(spiel_, sitz, ansage)) return Bescheid::abgelehnt(std::move(*grund));
     const AnsageEintrag e = ansageEintragen(spiel_, sitz, ansage);
-    melden(ansageMeldung(spiel_, e));
+    if (senke_) melden(ansageMeldung(spiel_, e));
     for (Spielbeobachter* b : beobachter_) b->ansageGemacht(spiel_, e);
     return {};
 }

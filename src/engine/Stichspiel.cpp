@@ -1,5 +1,6 @@
 #include "Stichspiel.h"
 
+#include <algorithm>
 #include <array>
 
 #include "Kartentext.h"
@@ -20,6 +21,7 @@ bool karteErlaubt(const Spiel& spiel, Sitz sitz, int pos) {
 
 std::vector<int> handkarten(const Spiel& spiel, Sitz sitz) {
     std::vector<int> karten;
+    karten.reserve(static_cast<std::size_t>(spiel.deck.handgroesse()));
     for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
         if (spiel.deck[p].status == InHand) karten.push_back(p);
     return karten;
@@ -27,7 +29,13 @@ std::vector<int> handkarten(const Spiel& spiel, Sitz sitz) {
 
 std::vector<int> erlaubteKarten(const Spiel& spiel, Sitz sitz) {
     std::vector<int> karten = handkarten(spiel, sitz);
-    std::erase_if(karten, [&](int p) { return !karteErlaubt(spiel, sitz, p); });
+    const Stich& stich = spiel.stich;
+    if (stich.anzahl == 0) return karten;
+    // One pass instead of asking karteErlaubt per card: who holds the suit must follow it.
+    const int farbe = stich.farbeZuBedienen;
+    const bool kannBedienen =
+        std::any_of(karten.begin(), karten.end(), [&](int p) { return spiel.deck[p].farbe == farbe; });
+    if (kannBedienen) std::erase_if(karten, [&](int p) { return spiel.deck[p].farbe != farbe; });
     return karten;
 }
 

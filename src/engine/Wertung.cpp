@@ -49,26 +49,17 @@ std::string partieendeText(int endeBei) {
     return "Partieende bei Überschreiten von " + std::to_string(endeBei) + " Punkt" + (endeBei > 1 ? "en" : "");
 }
 
-void spielWerten(Spiel& spiel) {
-    Spielergebnis e;
-    e.gewertet = true;
-    std::vector<std::string> zeilen;
-    for (const Sitz s : alleSitze) {
-        if (spiel.partei[s] != ParteiUnbekannt) continue;
-        spiel.partei[s] = ParteiKontra;
-        zeilen.push_back("Konnte Spieler" + spiel.namen[s] +
-                         " bisher keiner Partei zuordnen. Stecke ihn daher in die Partei der Jungen!");
-    }
-
+Wertzahlen wertungRechnen(const Spiel& spiel) {
+    Wertzahlen w;
     std::array<int, 3> augen{}, stiche{};
     for (const Sitz s : alleSitze) {
         augen[static_cast<std::size_t>(seite(spiel, s))] += spiel.augen[s];
         stiche[static_cast<std::size_t>(seite(spiel, s))] += spiel.stichzahl[s];
     }
-    e.augenRe = augen[ParteiRe];
-    e.augenKontra = augen[ParteiKontra];
-    e.sticheRe = stiche[ParteiRe];
-    e.sticheKontra = stiche[ParteiKontra];
+    w.augenRe = augen[ParteiRe];
+    w.augenKontra = augen[ParteiKontra];
+    w.sticheRe = stiche[ParteiRe];
+    w.sticheKontra = stiche[ParteiKontra];
 
     const int gesamt = augenImSpiel(spiel.deck);
     const int alleStiche = spiel.deck.handgroesse();
@@ -80,21 +71,63 @@ void spielWerten(Spiel& spiel) {
 
     // Winner: Kontra holds with 120; an announced limit must be reached by its side,
     // else the other side wins and gets the announced levels as well.
-    int angesagt = 0;
-    int limitSeite = 0;
-    bool eingehalten = false;
     if (spiel.limitSitz) {
-        limitSeite = seite(spiel, *spiel.limitSitz);
-        angesagt = 4 - spiel.limitCode;
-        eingehalten = stufen(limitSeite) >= angesagt;
-        e.gewinner = eingehalten ? limitSeite : andere(limitSeite);
-        e.limitEingehalten = eingehalten ? 1 : 0;
+        w.limitSeite = seite(spiel, *spiel.limitSitz);
+        w.angesagt = 4 - spiel.limitCode;
+        w.eingehalten = stufen(w.limitSeite) >= w.angesagt;
+        w.gewinner = w.eingehalten ? w.limitSeite : andere(w.limitSeite);
     } else {
-        e.gewinner = e.augenKontra >= 120 ? ParteiKontra : ParteiRe;
+        w.gewinner = w.augenKontra >= 120 ? ParteiKontra : ParteiRe;
     }
+    w.erreicht = stufen(w.gewinner);
+    w.spielwert = 1 + w.erreicht + w.angesagt;
+
+    int wert = w.spielwert * spiel.faktor;
+    for (const Sonderpunkt& sp : spiel.sonderpunkte) {
+        if (sp.partei == w.gewinner)
+            ++w.sonderpunkteGewinner;
+        else
+            ++w.sonderpunkteVerlierer;
+    }
+    wert += w.sonderpunkteGewinner - w.sonderpunkteVerlierer;
+    w.ergebnis = wert;
+    w.buchungsPartei = wert < 0 ? andere(w.gewinner) : w.gewinner;
+    w.betrag = std::abs(wert);
+    if (spiel.partie.bock && spiel.regeln.bockrunden) w.betrag *= 2;
+    return w;
+}
+
+int punkteFuerSeite(const Wertzahlen& w, int seiteNr) {
+    return w.buchungsPartei == seite(seiteNr) ? w.betrag : -w.betrag;
+}
+
+void spielWerten(Spiel& spiel) {
+    Spielergebnis e;
+    e.gewertet = true;
+    std::vector<std::string> zeilen;
+    for (const Sitz s : alleSitze) {
+        if (spiel.partei[s] != ParteiUnbekannt) continue;
+        spiel.partei[s] = ParteiKontra;
+        zeilen.push_back("Konnte Spieler" + spiel.namen[s] +
+                         " bisher keiner Partei zuordnen. Stecke ihn daher in die Partei der Jungen!");
+    }
+
+    const Wertzahlen w = wertungRechnen(spiel);
+    e.augenRe = w.augenRe;
+    e.augenKontra = w.augenKontra;
+    e.sticheRe = w.sticheRe;
+    e.sticheKontra = w.sticheKontra;
+    e.gewinner = w.gewinner;
+    const int limitSeite = w.limitSeite;
+    const int angesagt = w.angesagt;
+    const bool eingehalten = w.eingehalten;
+    if (limitSeite) e.limitEingehalten = eingehalten ? 1 : 0;
     const int verlierer = andere(e.gewinner);
-    const int erreicht = stufen(e.gewinner);
-    e.spielwert = 1 + erreicht + angesagt;
+    const int erreicht = w.erreicht;
+    e.spielwert = w.spielwert;
+    const int alleStiche = spiel.deck.handgroesse();
+    const std::array<int, 3> augen{0, w.augenKontra, w.augenRe};
+    const std::array<int, 3> stiche{0, w.sticheKontra, w.sticheRe};
 
     const int menschSeite = seite(spiel, Mensch);
     const bool menschGewinnt = e.gewinner == menschSeite;
@@ -132,12 +165,8 @@ void spielWerten(Spiel& spiel) {
         wertZeile += " = " + std::to_string(wert);
 
     // 3. and 4. Special points of winner and loser.
-    for (const Sonderpunkt& sp : spiel.sonderpunkte) {
-        if (sp.partei == e.gewinner)
-            ++e.sonderpunkteGewinner;
-        else
-            ++e.sonderpunkteVerlierer;
-    }
+    e.sonderpunkteGewinner = w.sonderpunkteGewinner;
+    e.sonderpunkteVerlierer = w.sonderpunkteVerlierer;
     wert += e.sonderpunkteGewinner;
     if (e.sonderpunkteGewinner == 1)
         wertZeile += std::string(EinSonderpunkt) + std::to_string(wert);

@@ -51,6 +51,31 @@ inline constexpr std::string_view NeuePartie = "&Neue Partie";
 // Augen of all cards in the game (240 with or without nines).
 int augenImSpiel(const Deck& deck);
 
+// The numbers of the scoring without its texts and without booking anything: for
+// searches that score thousands of simulated games. A seat not placed counts as Kontra.
+struct Wertzahlen {
+    int gewinner = 0;           // 1 Kontra, 2 Re
+    int augenRe = 0;
+    int augenKontra = 0;
+    int sticheRe = 0;
+    int sticheKontra = 0;
+    int erreicht = 0;           // levels the winner passed
+    int angesagt = 0;           // announced limit levels (0 without a limit)
+    int limitSeite = 0;
+    bool eingehalten = false;
+    int spielwert = 0;
+    int sonderpunkteGewinner = 0;
+    int sonderpunkteVerlierer = 0;
+    int ergebnis = 0;           // after factor and special points, before the Bock doubling
+    int buchungsPartei = 0;     // side whose seats are booked
+    int betrag = 0;             // points booked to each of its seats, Bock doubling included
+};
+Wertzahlen wertungRechnen(const Spiel& spiel);
+
+// Points the game brings the side (1 Kontra, 2 Re): the points booked to each of its
+// seats, negative when the other side is booked.
+int punkteFuerSeite(const Wertzahlen& w, int seiteNr);
+
 // Scores the finished game into spiel.ergebnis, books the points on the score
 // sheet, sets or clears the Bock mark and decides the end of the Partie.
 void spielWerten(Spiel& spiel);

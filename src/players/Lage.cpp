@@ -29,7 +29,13 @@ int kleinsteNach(const std::vector<int>& karten, F schluessel) {
 Lage::Lage(const Spiel& s, const Tischwissen& w, Sitz sitz, const Melder& m, Zufallsquelle& z)
     : spiel(s), wissen(w), ich(sitz), melder(m), zufall(z), trumpf(s.spieltyp) {
     hand = handkarten(spiel, ich);
-    erlaubt = erlaubteKarten(spiel, ich);
+    erlaubt = hand;
+    if (spiel.stich.anzahl > 0) {
+        // Who holds the suit to follow must follow it (the engine's rule, without a second pass).
+        const int f = spiel.stich.farbeZuBedienen;
+        if (std::any_of(hand.begin(), hand.end(), [&](int p) { return spiel.deck[p].farbe == f; }))
+            std::erase_if(erlaubt, [&](int p) { return spiel.deck[p].farbe != f; });
+    }
     werteBerechnen();
 
     const Deck& deck = spiel.deck;
@@ -51,14 +57,15 @@ bool Lage::schweinOeffentlich() const {
     return halter && (spiel.regeln.schweineAnsagen || *halter == Sitz(1) || spiel.schweineGespielt[*halter] > 0);
 }
 
-int Lage::staerke(int pos) const {
+int Lage::staerkeBerechnen(int pos, bool schweinOffen) const {
     const auto& k = spiel.deck[pos];
-    if (k.status == InHand && k.code == KaroAs && trumpf == Normalspiel && spiel.schweineHalter) {
+    if (k.status != InHand) return k.staerke;
+    if (k.code == KaroAs && trumpf == Normalspiel && spiel.schweineHalter) {
         const Sitz besitzer = spiel.deck.besitzer(pos);
-        if (besitzer == *spiel.schweineHalter && (besitzer == ich || schweinOeffentlich())) return StaerkeJoker;
+        if (besitzer == *spiel.schweineHalter && (besitzer == ich || schweinOffen)) return StaerkeJoker;
     }
     // The own trump Asse of a Supersau are promoted when played.
-    if (k.status == InHand && spiel.supersauHalter == ich && istFarbspiel(trumpf) && k.code == kartencode(trumpf, As) &&
+    if (spiel.supersauHalter == ich && istFarbspiel(trumpf) && k.code == kartencode(trumpf, As) &&
         spiel.deck.besitzer(pos) == ich)
         return StaerkeJoker;
     return k.staerke;
@@ -79,11 +86,18 @@ bool Lage::istFigur(int pos) const { return karte(pos).wert == WertDame || karte
 
 void Lage::werteBerechnen() {
     const Deck& deck = spiel.deck;
+    const bool schweinOffen = schweinOeffentlich();
+    // Only a Schwein or a Supersau counts otherwise than the deck says.
+    const bool erhoeht = (trumpf == Normalspiel && spiel.schweineHalter) ||
+                         (spiel.supersauHalter == ich && istFarbspiel(trumpf));
+    const int erste = deck.erstePosition(ich);
+    const int letzte = deck.letztePosition(ich);
     for (int p = 1; p <= deck.kartenanzahl(); ++p) {
         const auto& k = deck[p];
+        const int s = erhoeht ? staerkeBerechnen(p, schweinOffen) : k.staerke;
+        staerken_[static_cast<std::size_t>(p)] = s;
         if (k.status != InHand) continue;
-        const bool meine = deck.besitzer(p) == ich;
-        const int s = staerke(p);
+        const bool meine = p >= erste && p <= letzte;
         const auto f = fi(k.farbe);
         if (k.farbe == trumpf) {
             ++werte.truempfeImSpiel;
@@ -99,7 +113,8 @@ void Lage::werteBerechnen() {
         werte.hoechsteOffene[f] = std::max(werte.hoechsteOffene[f], s);
         if (meine) {
             ++werte.eigeneAnzahl[f];
-            if (werte.eigeneBeste[f] == 0 || s > staerke(werte.eigeneBeste[f])) werte.eigeneBeste[f] = p;
+            if (werte.eigeneBeste[f] == 0 || s > staerken_[static_cast<std::size_t>(werte.eigeneBeste[f])])
+                werte.eigeneBeste[f] = p;
         } else {
             ++werte.fremdeAnzahl[f];
             werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], s);

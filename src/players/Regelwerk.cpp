@@ -29,7 +29,12 @@ int Regelwerk::karteWaehlen(const Spiel& spiel, Sitz sitz) {
     wissen_.zugVorbereiten(spiel, sitz);
     const Melder melder(senke_, sitz, wissen_.msgBoxModus == MsgBoxZeigen);
     melder.entscheidung();
-    const Lage lage(spiel, wissen_, sitz, melder, zufall_);
+    // The view of the announcement check just made, if it was for this very state; used once.
+    Vorlage vorlage = std::move(vorlage_);
+    vorlage_ = Vorlage{};
+    std::unique_ptr<Lage> neu;
+    if (!passt(vorlage, spiel, sitz)) neu = std::make_unique<Lage>(spiel, wissen_, sitz, melder, zufall_);
+    const Lage& lage = neu ? *neu : *vorlage.lage;
     if (lage.erlaubt.empty()) return 0;
     int karte = lage.anzahl == 0 ? ausspielWaehlen(lage) : (art_.bedienen ? art_.bedienen : bedienenWaehlen)(lage);
     if (!istErlaubt(lage, karte)) {
@@ -71,13 +76,35 @@ Vorbehalt Regelwerk::vorbehaltWaehlen(const Spiel& spiel, Sitz sitz) {
 }
 
 std::optional<Ansage> Regelwerk::ansageWaehlen(const Spiel& spiel, Sitz sitz) {
+    vorlage_ = Vorlage{};
     if (!art_.ansagen) return std::nullopt;
+    // Re or Kontra is weighed during a trick or before the first card, a limit only when
+    // leading after the first trick: elsewhere neither rule can say yes.
+    const bool leer = spiel.stich.anzahl == 0 || spiel.stich.komplett();
+    const bool reKontra = ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine &&
+                          !(leer && spiel.sticheGespielt > 0);
+    const bool limit = leer && spiel.sticheGespielt > 0 &&
+                       ansageSperre(spiel, sitz, Ansage{true, Keine90}) == Ansagesperre::Keine;
+    if (!reKontra && !limit) return std::nullopt;
     if (!wissen_.aktuell(spiel)) wissen_.nachvollziehen(spiel);
-    const Melder melder(senke_, sitz, wissen_.msgBoxModus == MsgBoxZeigen);
-    const Lage lage(spiel, wissen_, sitz, melder, zufall_);
+    Vorlage v;
+    v.spiel = &spiel;
+    v.sitz = sitz;
+    v.karten = spiel.sticheGespielt * 4 + spiel.stich.anzahl;
+    v.ansagen = spiel.ansagen.size();
+    v.melder = std::make_unique<Melder>(senke_, sitz, wissen_.msgBoxModus == MsgBoxZeigen);
+    v.lage = std::make_unique<Lage>(spiel, wissen_, sitz, *v.melder, zufall_);
+    const Lage& lage = *v.lage;
+    vorlage_ = Vorlage{};
     if (ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine && kontraPruefen(lage).ansagen) return Ansage{};
     if (const auto code = limitPruefen(lage)) return Ansage{true, *code};
+    vorlage_ = std::move(v);
     return std::nullopt;
+}
+
+bool Regelwerk::passt(const Vorlage& v, const Spiel& spiel, Sitz sitz) const {
+    return v.lage && v.spiel == &spiel && v.sitz == sitz && v.karten == spiel.sticheGespielt * 4 + spiel.stich.anzahl &&
+           v.ansagen == spiel.ansagen.size() && v.melder->zeigt() == (senke_ && wissen_.msgBoxModus == MsgBoxZeigen);
 }
 
 }  // namespace players

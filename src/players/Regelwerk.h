@@ -1,7 +1,10 @@
 #pragma once
 // The rule book player: reservations, announcements, leads and follows by the
 // ordered rule tables, with the knowledge shared by the computer seats of its table.
+#include <memory>
+
 #include "Begruendung.h"
+#include "Lage.h"
 #include "Tischwissen.h"
 #include "engine/Entscheider.h"
 
@@ -30,6 +33,19 @@ public:
     std::optional<engine::Ansage> ansageWaehlen(const Spiel& spiel, Sitz sitz) override;
 
 private:
+    // The view of the last announcement check, kept for the card asked right after it
+    // on the same state (building it is much of the rule book's time).
+    struct Vorlage {
+        const Spiel* spiel = nullptr;
+        Sitz sitz{1};
+        int karten = -1;
+        std::size_t ansagen = 0;
+        std::unique_ptr<Melder> melder;
+        std::unique_ptr<Lage> lage;
+    };
+    bool passt(const Vorlage& v, const Spiel& spiel, Sitz sitz) const;
+
+    Vorlage vorlage_;
     Tischwissen& wissen_;
     engine::Zufallsquelle& zufall_;
     Begruendungssenke* senke_;

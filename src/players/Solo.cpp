@@ -2,9 +2,12 @@
 #include "Solo.h"
 
 #include <algorithm>
+#include <atomic>
 #include <functional>
+#include <span>
 #include <vector>
 
+#include "Kontra.h"
 #include "Regeltabelle.h"
 #include "Texte.h"
 #include "engine/Stichspiel.h"
@@ -44,6 +47,48 @@ Deck deckFuer(const Spiel& spiel, Sitz sitz, int art) {
     return d;
 }
 
+// Suit and strength per position as deckFuer would give them, for the cards in hand
+// only and without copying the deck: the estimate runs for every kind at every deal.
+struct Rangliste {
+    std::array<int, MaxPositionen + 1> farbe{};
+    std::array<int, MaxPositionen + 1> staerke{};
+};
+
+Rangliste ranglisteFuer(const Spiel& spiel, Sitz sitz, int art) {
+    Rangliste r;
+    const Deck& deck = spiel.deck;
+    const bool eigenes = laufend(spiel) && art == spiel.spieltyp;
+    for (int p = 1; p <= deck.kartenanzahl(); ++p) {
+        const Kartenposition& k = deck[p];
+        if (k.status != InHand) continue;
+        const auto i = static_cast<std::size_t>(p);
+        if (eigenes) {
+            r.farbe[i] = k.farbe;
+            r.staerke[i] = k.staerke;
+        } else {
+            const Rangierung rang = rangierung(k.code, art);
+            r.farbe[i] = rang.farbe;
+            r.staerke[i] = rang.staerke;
+        }
+    }
+    if (eigenes) return r;
+    const Regeln& regeln = spiel.regeln;
+    auto obenauf = [&](int code) {
+        int inHand = 0;
+        for (int p = deck.erstePosition(sitz); p <= deck.letztePosition(sitz); ++p)
+            inHand += deck[p].code == code && deck[p].status == InHand;
+        if (inHand < 2) return false;
+        for (int p = deck.erstePosition(sitz); p <= deck.letztePosition(sitz); ++p)
+            if (deck[p].code == code && deck[p].status == InHand) r.staerke[static_cast<std::size_t>(p)] = StaerkeJoker;
+        return true;
+    };
+    bool schweine = false;
+    if (art == Normalspiel && regeln.zweiSchweine && (regeln.schweineBTrSolo || hatBeideKreuzDamen(spiel, sitz)))
+        schweine = obenauf(KaroAs);
+    if (!schweine && istFarbspiel(art) && regeln.supersau && regeln.zweiSchweine) obenauf(kartencode(art, As));
+    return r;
+}
+
 double binom(int n, int k) {
     if (k < 0 || k > n) return 0;
     double b = 1;
@@ -58,10 +103,9 @@ bool schlaegtGefuehrt(int eigene, int fremde, const Regeln& r) {
 
 }  // namespace
 
-int abziehrunden(int fremde, const std::array<int, 3>& n, double sicherheit) {
+namespace {
+int abziehrundenRechnen(int fremde, const std::array<int, 3>& n, double sicherheit) {
     const int gesamt = n[0] + n[1] + n[2];
-    if (fremde <= 0) return 0;
-    if (fremde > gesamt) return fremde;
     const double alle = binom(gesamt, fremde);
     for (int m = 1; m < fremde; ++m) {
         // Share of the spreads in which no hand holds more than m trumps.
@@ -76,6 +120,44 @@ int abziehrunden(int fremde, const std::array<int, 3>& n, double sicherheit) {
     return fremde;
 }
 
+// The answers for the two confidences the players ask with, remembered: the solo
+// estimate asks them again and again, from several threads during a search.
+constexpr int MaxHand = 12;
+constexpr int MaxFremde = 3 * MaxHand;
+constexpr std::size_t Eintraege = (MaxFremde + 1) * (MaxHand + 1) * (MaxHand + 1) * (MaxHand + 1);
+struct Gedaechtnis {
+    // -1: not yet computed.
+    Gedaechtnis() {
+        for (auto& e : runden) e.store(-1, std::memory_order_relaxed);
+    }
+    std::array<std::atomic<signed char>, Eintraege> runden;
+};
+
+Gedaechtnis* gedaechtnisFuer(double sicherheit) {
+    static Gedaechtnis solo;
+    static Gedaechtnis limit;
+    if (sicherheit == AbziehenSolo) return &solo;
+    if (sicherheit == AbziehenLimit) return &limit;
+    return nullptr;
+}
+}  // namespace
+
+int abziehrunden(int fremde, const std::array<int, 3>& n, double sicherheit) {
+    const int gesamt = n[0] + n[1] + n[2];
+    if (fremde <= 0) return 0;
+    if (fremde > gesamt) return fremde;
+    const bool imRahmen = std::all_of(n.begin(), n.end(), [](int h) { return h >= 0 && h <= MaxHand; });
+    Gedaechtnis* g = imRahmen ? gedaechtnisFuer(sicherheit) : nullptr;
+    if (!g) return abziehrundenRechnen(fremde, n, sicherheit);
+    const auto i = static_cast<std::size_t>(((fremde * (MaxHand + 1) + n[0]) * (MaxHand + 1) + n[1]) * (MaxHand + 1) + n[2]);
+    signed char bekannt = g->runden[i].load(std::memory_order_relaxed);
+    if (bekannt < 0) {
+        bekannt = static_cast<signed char>(abziehrundenRechnen(fremde, n, sicherheit));
+        g->runden[i].store(bekannt, std::memory_order_relaxed);
+    }
+    return bekannt;
+}
+
 int truempfeIn(const Spiel& spiel, Sitz sitz, int art) {
     const Deck d = deckFuer(spiel, sitz, art);
     const std::vector<int> hand = handkarten(spiel, sitz);
@@ -85,56 +167,75 @@ int truempfeIn(const Spiel& spiel, Sitz sitz, int art) {
 bool spieltZuerstAus(const Spiel& spiel, Sitz sitz) { return sitz == spiel.vorhand || spiel.regeln.vhSolo; }
 
 Soloschaetzung soloSchaetzen(const Spiel& spiel, Sitz sitz, int art, bool amAufspiel, double sicherheit) {
-    const Deck d = deckFuer(spiel, sitz, art);
+    const Deck& d = spiel.deck;
+    const Rangliste rang = ranglisteFuer(spiel, sitz, art);
+    auto farbe = [&](int p) { return rang.farbe[static_cast<std::size_t>(p)]; };
+    auto staerke = [&](int p) { return rang.staerke[static_cast<std::size_t>(p)]; };
     const Regeln& r = spiel.regeln;
-    const std::vector<int> eigene = handkarten(spiel, sitz);
-    std::vector<int> fremde;
+    // Fixed arrays: the reservations and the announcement rules ask this for every kind.
+    std::array<int, MaxPositionen> eigene{};
+    std::array<int, MaxPositionen> fremde{};
+    std::size_t nEigene = 0;
+    std::size_t nFremde = 0;
     std::array<int, 3> groessen{};
     int fremdeTruempfe = 0;
     int hoechsterFremder = 0;
-    for (int i = 1; i <= 3; ++i) {
-        const std::vector<int> h = handkarten(spiel, sitz.plus(i));
-        groessen[static_cast<std::size_t>(i - 1)] = static_cast<int>(h.size());
-        for (int p : h) {
-            fremde.push_back(p);
-            if (d[p].farbe != art) continue;
+    for (int i = 0; i <= 3; ++i) {
+        const Sitz s = sitz.plus(i);
+        for (int p = d.erstePosition(s); p <= d.letztePosition(s); ++p) {
+            if (d[p].status != InHand) continue;
+            if (i == 0) {
+                eigene[nEigene++] = p;
+                continue;
+            }
+            ++groessen[static_cast<std::size_t>(i - 1)];
+            fremde[nFremde++] = p;
+            if (farbe(p) != art) continue;
             ++fremdeTruempfe;
-            hoechsterFremder = std::max(hoechsterFremder, d[p].staerke);
+            hoechsterFremder = std::max(hoechsterFremder, staerke(p));
         }
     }
+    const auto eigeneKarten = std::span(eigene).first(nEigene);
+    const auto fremdeKarten = std::span(fremde).first(nFremde);
 
     Soloschaetzung e;
     if (art == SoloOhneTrumpf) {
         e.abziehen = e.sicher = true;
     } else {
-        const int oben = static_cast<int>(std::count_if(eigene.begin(), eigene.end(), [&](int p) {
-            return d[p].farbe == art && schlaegtGefuehrt(d[p].staerke, hoechsterFremder, r);
+        const int oben = static_cast<int>(std::count_if(eigeneKarten.begin(), eigeneKarten.end(), [&](int p) {
+            return farbe(p) == art && schlaegtGefuehrt(staerke(p), hoechsterFremder, r);
         }));
         e.sicher = oben >= fremdeTruempfe;
         e.abziehen = oben >= abziehrunden(fremdeTruempfe, groessen, sicherheit);
     }
     if (!e.abziehen || !amAufspiel) {
-        e.stiche = static_cast<int>(eigene.size());
+        e.stiche = static_cast<int>(nEigene);
         e.augen = NichtSicher;
         return e;
     }
 
-    // Trumps pulled: a side card loses when another hand holds a stronger one of its suit.
+    // Trumps pulled: a side card loses when another hand holds a stronger one of its suit
+    // (or an equal second Dolle); the others' best card per suit tells.
+    std::array<int, 9> besteFremde{};
+    for (int q : fremdeKarten) {
+        auto& b = besteFremde[static_cast<std::size_t>(farbe(q))];
+        b = std::max(b, staerke(q));
+    }
     int verlierer = 0;
-    for (int p : eigene) {
-        if (d[p].farbe == art) continue;
-        const bool geschlagen = std::any_of(fremde.begin(), fremde.end(), [&](int q) {
-            return d[q].farbe == d[p].farbe && !schlaegtGefuehrt(d[p].staerke, d[q].staerke, r);
-        });
+    for (int p : eigeneKarten) {
+        if (farbe(p) == art) continue;
+        const int fremd = besteFremde[static_cast<std::size_t>(farbe(p))];
+        const bool geschlagen = fremd > 0 && !schlaegtGefuehrt(staerke(p), fremd, r);
         if (!geschlagen) continue;
         ++verlierer;
         e.augen += d[p].augen;
     }
-    std::vector<int> fett;
-    for (int q : fremde)
-        if (d[q].farbe != art) fett.push_back(d[q].augen);
-    std::sort(fett.begin(), fett.end(), std::greater<>());
-    for (std::size_t i = 0; i < fett.size() && i < static_cast<std::size_t>(3 * verlierer); ++i) e.augen += fett[i];
+    std::array<int, MaxPositionen> fett{};
+    std::size_t nFett = 0;
+    for (int q : fremdeKarten)
+        if (farbe(q) != art) fett[nFett++] = d[q].augen;
+    std::sort(fett.begin(), fett.begin() + static_cast<std::ptrdiff_t>(nFett), std::greater<>());
+    for (std::size_t i = 0; i < nFett && i < static_cast<std::size_t>(3 * verlierer); ++i) e.augen += fett[i];
     e.stiche = verlierer;
     return e;
 }

@@ -319,7 +319,7 @@ void Tischwissen::zugVorbereiten(const Spiel& spiel, Sitz sitz) {
     // keeps its first-trick number for all later tricks.
     const int n = spiel.stich.anzahl;
     if (spiel.sticheGespielt == 0 && ((n == 0 && sitz != Sitz(1)) || (n == 1 && sitz == Sitz(2))))
-        zufallszahl = static_cast<int>(zufall_.rnd() * 100 + 1);
+        zufallszahl = static_cast<int>(zufall_->rnd() * 100 + 1);
     if (truempfeInHand(spiel, sitz) == 0) keinTrumpf[sitz][sitz] = true;
 }
 

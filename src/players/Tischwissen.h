@@ -27,7 +27,14 @@ inline constexpr int MsgBoxVerbergen = 3;
 class Tischwissen final : public engine::Spielbeobachter {
 public:
     explicit Tischwissen(engine::Zufallsquelle& zufall, Begruendungssenke* senke = nullptr)
-        : zufall_(zufall), senke_(senke) {}
+        : zufall_(&zufall), senke_(senke) {}
+    Tischwissen(const Tischwissen&) = default;
+    // A copy that draws from another source and reports nothing (for another thread).
+    Tischwissen(const Tischwissen& andere, engine::Zufallsquelle& zufall) : Tischwissen(andere) {
+        zufall_ = &zufall;
+        senke_ = nullptr;
+    }
+    Tischwissen& operator=(const Tischwissen&) = delete;
 
     void senkeSetzen(Begruendungssenke* senke) { senke_ = senke; }
 
@@ -89,7 +96,7 @@ private:
     void folgern(const Spiel& spiel);
     void hinweis(const std::string& text);
 
-    engine::Zufallsquelle& zufall_;
+    engine::Zufallsquelle* zufall_;
     Begruendungssenke* senke_;
     int beobachteteKarten_ = 0;
     bool begonnen_ = false;

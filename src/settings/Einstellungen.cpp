@@ -16,7 +16,7 @@ struct Anzeigeschluessel {
 };
 
 // The options of the section that are not rules.
-constexpr std::array<Anzeigeschluessel, 17> anzeigeschluessel{{
+constexpr std::array<Anzeigeschluessel, 18> anzeigeschluessel{{
     {"Sprachausgabe", &Einstellungen::sprachausgabe},
     {"Geräusch", &Einstellungen::geraeusch},
     {"Signal", &Einstellungen::signal},
@@ -34,6 +34,7 @@ constexpr std::array<Anzeigeschluessel, 17> anzeigeschluessel{{
     {"Willkommen", &Einstellungen::willkommen},
     {"Hintergrund", &Einstellungen::hintergrund},
     {"Vordergrund", &Einstellungen::vordergrund},
+    {"Bedenkzeit", &Einstellungen::bedenkzeit},
 }};
 
 // Colours are stored as text and read as strings, then taken by their numeric value.
@@ -66,7 +67,7 @@ const std::vector<std::string_view>& leseschluessel() {
         "Sopu_Dollenschlag", "Sopu_Herzstich", "DaBu_Solo", "Neunerwerfen", "Koenigewerfen", "Armut",
         "Scharfer_Rupa", "Zwei_Schweine", "Schweine_ansagen", "Schweine_b_TrSolo", "Supersau",
         "Stille_befoerderung", "Vollbild", "Augen_zeigen", "Partei_zeigen", "Solis", "Willkommen",
-        "Hintergrund", "Vordergrund"};
+        "Hintergrund", "Vordergrund", "Bedenkzeit"};
     return liste;
 }
 
@@ -79,7 +80,7 @@ const std::vector<std::string_view>& schreibschluessel() {
         "Sopu_doppelfuchs", "Sopu_karlchen", "Sopu_doppelkarlchen", "Sopu_rupa_b_Solo",
         "Sopu_Dollenschlag", "Sopu_Herzstich", "DaBu_Solo", "Neunerwerfen", "Koenigewerfen", "Armut",
         "Scharfer_Rupa", "Zwei_Schweine", "Schweine_ansagen", "Schweine_b_TrSolo", "Supersau",
-        "Stille_befoerderung", "Vollbild", "Augen_zeigen", "Partei_zeigen", "Geräusch", "Solis"};
+        "Stille_befoerderung", "Vollbild", "Augen_zeigen", "Partei_zeigen", "Geräusch", "Solis", "Bedenkzeit"};
     return liste;
 }
 

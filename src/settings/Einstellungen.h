@@ -35,6 +35,7 @@ struct Einstellungen {
     int willkommen = -1;
     int hintergrund = 6196318;  // Windows colour value: a green (94, 140, 94)
     int vordergrund = 0;
+    int bedenkzeit = 500;  // ms per decision of the strong computer player (character 3)
 
     bool operator==(const Einstellungen&) const = default;
 };

@@ -343,6 +343,19 @@ QWidget* Einstellform::spielerSeite() {
     spalte->addWidget(sitze);
     spalte->addWidget(hinweis(SpielweiseSitz1, seite));
 
+    // How long the strong player (character 3) thinks; it counts games, so a busy
+    // machine plays the same cards, only later.
+    auto* stark = gruppe(StarkerSpieler, seite);
+    auto* bedenkzeit = new QSpinBox(stark);
+    bedenkzeit->setRange(10, 10000);
+    bedenkzeit->setSingleStep(100);
+    bedenkzeit->setSuffix(t(Millisekunden));
+    bedenkzeit->setObjectName(QStringLiteral("Bedenkzeit"));
+    bedenkzeit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    binden("Bedenkzeit", bedenkzeit);
+    (new QFormLayout(stark))->addRow(t(Bedenkzeit), bedenkzeit);
+    spalte->addWidget(stark);
+
     auto* verteilung = gruppe(Kartenverteilung, seite);
     manuelleVerteilung_ = new QCheckBox(t(ManuelleVerteilung), verteilung);
     manuelleVerteilung_->setObjectName(QStringLiteral("ManuelleVerteilung"));

@@ -72,6 +72,9 @@ inline constexpr char Spielweise[] = "Spielweise des Computers";
 inline constexpr char SitzSie[] = "1 (Sie)";
 inline constexpr char SpielweiseSitz1[] = "Die Spielweise von Sitz 1 gilt, wenn der Computer für Sie spielt (Automatisch spielen).";
 inline constexpr char Kartenverteilung[] = "Kartenverteilung";
+inline constexpr char StarkerSpieler[] = "Starker Computerspieler";
+inline constexpr char Bedenkzeit[] = "Bedenkzeit je Karte:";
+inline constexpr char Millisekunden[] = " ms";
 inline constexpr char ManuelleVerteilung[] = "Vor jedem Spiel fragen: „Manuelle Kartenverteilung?“";
 inline constexpr char UnbekannterWert[] = "Wert ";
 

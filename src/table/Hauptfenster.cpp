@@ -47,6 +47,9 @@ void Hauptfenster::menuesAnlegen() {
     spielMenue_ = spiel;
     neuePartie_ = aktion(spiel, t(texte::NeuePartie), "m_neue_partie");
     neuePartie_->setShortcut(QKeySequence(Qt::Key_F2));
+    tipp_ = aktion(spiel, t(texte::Tipp), "m_tipp");
+    tipp_->setShortcut(QKeySequence(Qt::Key_H));
+    connect(tipp_, &QAction::triggered, this, &Hauptfenster::tippGewuenscht);
     turnierpartie_ = aktion(spiel, t(turniertext::TurnierpartieMenue), "m_turnierpartie");
     ergebnisse_ = aktion(spiel, t(turniertext::ErgebnisseMenue), "m_turnierergebnisse");
     spiel->addSeparator();

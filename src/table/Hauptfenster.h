@@ -47,6 +47,7 @@ public:
     QAction* turnierpartieAktion() const { return turnierpartie_; }
     QAction* ergebnisseAktion() const { return ergebnisse_; }
     QMenu* spielMenue() const { return spielMenue_; }
+    QAction* tippAktion() const { return tipp_; }
     // The learning aids: review, statistics, open hands, cards played.
     QAction* spielverlaufAktion() const { return spielverlauf_; }
     QAction* statistikAktion() const { return statistik_; }
@@ -84,6 +85,8 @@ signals:
     void letzterStichGewuenscht();
     void alleSticheGewuenscht();
     void spielzettelGewuenscht();
+    // "&Tipp" (H): which card the strong player would play, and why.
+    void tippGewuenscht();
     void beendenGewuenscht();
     // A question of the window is open (true) or closed again: the game waits meanwhile.
     void frageOffen(bool offen);
@@ -121,6 +124,7 @@ private:
     QAction* netzprotokoll_ = nullptr;
     QAction* vollbild_ = nullptr;
     QAction* regeln_ = nullptr;
+    QAction* tipp_ = nullptr;
     QAction* turnierpartie_ = nullptr;
     QAction* ergebnisse_ = nullptr;
     std::function<void()> vorDemBeenden_;

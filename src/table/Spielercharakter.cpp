@@ -7,6 +7,7 @@ const std::vector<Charakter>& charaktere() {
         {StandardCharakter, "regelwerk", "Regelwerk (überlegt jede Karte)"},
         {1, "zufall", "Glücksspieler (irgendeine erlaubte Karte)"},
         {0, "kleinste", "Anfänger (immer die kleinste Karte)"},
+        {3, "suche", "Stark (denkt jede Karte voraus)"},
     };
     return liste;
 }

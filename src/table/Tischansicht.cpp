@@ -507,4 +507,10 @@ void Tischansicht::handMalen(QPainter& maler, const Tischlayout& l) const {
     }
 }
 
+void Tischansicht::setzeAusgewaehlt(int pos) {
+    if (std::find(handfolge_.begin(), handfolge_.end(), pos) == handfolge_.end()) return;
+    ausgewaehlt_ = pos;
+    update();
+}
+
 }  // namespace table

@@ -53,6 +53,8 @@ public:
     QPointF kartenmitte(int pos) const;
     QPointF stichmitte() const;
     int ausgewaehlt() const { return ausgewaehlt_; }
+    // Puts the keyboard cursor on a card of seat 1 and lifts it (the hint); Enter plays it.
+    void setzeAusgewaehlt(int pos);
     // The layout in the table's own coordinates; painted scaled by massstab().
     Tischlayout layout() const;
     // Below its minimum size the table is drawn smaller as a whole, so nothing is cut off.

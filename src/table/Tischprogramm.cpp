@@ -109,6 +109,7 @@ void Tischprogramm::EinstUebernehmen(const settings::Einstellungen& e, const Ben
         charaktere[s] = e.charakter[static_cast<std::size_t>(s.nr() - 1)];
     }
     steuerung_.setzeNamen(namen);
+    steuerung_.setzeBedenkzeit(e.bedenkzeit);
     steuerung_.setzeCharaktere(charaktere);
     hfo_.symboleZeigen(e.iconen != 0);
     hfo_.automatikEintragZeigen(e.automatic != 0);

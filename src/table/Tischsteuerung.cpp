@@ -24,7 +24,9 @@
 #include "engine/Stichspiel.h"
 #include "engine/Vorbehalte.h"
 #include "Spielercharakter.h"
+#include "engine/Ansagen.h"
 #include "players/Spielerarten.h"
+#include "players/Stark.h"
 
 namespace table {
 
@@ -100,9 +102,121 @@ Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufall
     connect(&hfo_, &Hauptfenster::letzterStichGewuenscht, this, &Tischsteuerung::letzterStich);
     connect(&hfo_, &Hauptfenster::alleSticheGewuenscht, this, &Tischsteuerung::alleStiche);
     connect(&hfo_, &Hauptfenster::spielzettelGewuenscht, this, &Tischsteuerung::spielzettelZeigen);
+    connect(&hfo_, &Hauptfenster::tippGewuenscht, this, &Tischsteuerung::tipp);
 }
 
-Tischsteuerung::~Tischsteuerung() = default;
+Tischsteuerung::~Tischsteuerung() {
+    // A search still running finishes on its copy; its result finds nobody to play it.
+    if (denker_.joinable()) denker_.join();
+    if (tippDenker_.joinable()) tippDenker_.join();
+}
+
+// What a thinking thread works on: copies of the game and the table's knowledge and a
+// strong player of its own, so nothing of the window's state is touched off its thread.
+struct Tischsteuerung::Denkjob {
+    Denkjob(const engine::Spiel& s, const players::Tischwissen& w, Sitz wer, const players::Starkart& art,
+            std::uint64_t seed, int nr, int gespielt)
+        : spiel(s), zufall(seed), wissen(w, zufall), stark(wissen, zufall, nullptr, art, seed), sitz(wer),
+          schritt(nr), karten(gespielt) {}
+    engine::Spiel spiel;
+    engine::SeedZufall zufall;
+    players::Tischwissen wissen;
+    players::Stark stark;
+    Sitz sitz;
+    int schritt;
+    int karten;  // cards played when it began
+    std::optional<engine::Ansage> ansage;
+    int karte = 0;
+    players::Kartenerklaerung erklaerung;
+};
+
+void Tischsteuerung::setzeBedenkzeit(int ms) {
+    ms = std::clamp(ms, 10, 60000);
+    if (ms == bedenkzeit_) return;
+    bedenkzeit_ = ms;
+    gebaut_.fill(-1);  // the strong players are made again with the new time
+}
+
+std::shared_ptr<Tischsteuerung::Denkjob> Tischsteuerung::denkjob(Sitz sitz, const players::Starkart& art,
+                                                                  std::uint64_t seed) {
+    const int karten = spiel_.sticheGespielt * 4 + spiel_.stich.anzahl;
+    return std::make_shared<Denkjob>(spiel_, wissen_, sitz, art, seed, schritt_, karten);
+}
+
+bool Tischsteuerung::stimmtNoch(const Denkjob& job) const {
+    return job.schritt == schritt_ && job.karten == spiel_.sticheGespielt * 4 + spiel_.stich.anzahl &&
+           ablauf_.offeneArt() == Anfrageart::Karte && ablauf_.sitzDerAnfrage() == job.sitz;
+}
+
+void Tischsteuerung::denkenLassen(Sitz sitz, const players::Stark& stark) {
+    beschaeftigt_ = true;  // the status line says " überlegt..." meanwhile
+    // The table's own move preparation, as for every computer seat.
+    wissen_.zugVorbereiten(spiel_, sitz);
+    auto job = denkjob(sitz, stark.art(), stark.seed());
+    if (denker_.joinable()) denker_.join();
+    denkjob_ = job;
+    const bool ansageMoeglich = ablauf_.ansageMoeglich(sitz);
+    denker_ = std::thread([this, job, ansageMoeglich] {
+        if (ansageMoeglich) {
+            job->ansage = job->stark.ansageWaehlen(job->spiel, job->sitz);
+            if (job->ansage && !engine::ansageVerweigert(job->spiel, job->sitz, *job->ansage)) {
+                const engine::AnsageEintrag e = engine::ansageEintragen(job->spiel, job->sitz, *job->ansage);
+                job->wissen.ansageGemacht(job->spiel, e);
+            }
+        }
+        job->karte = job->stark.karteWaehlen(job->spiel, job->sitz);
+        QMetaObject::invokeMethod(this, [this, job] { gedacht(job); }, Qt::QueuedConnection);
+    });
+}
+
+void Tischsteuerung::gedacht(const std::shared_ptr<Denkjob>& job) {
+    // An old job's answer never waits for a newer thread.
+    if (job != denkjob_) return;
+    if (denker_.joinable()) denker_.join();
+    denkjob_.reset();
+    if (job->schritt != schritt_) return;
+    beschaeftigt_ = false;
+    if (!stimmtNoch(*job)) return weiter();
+    const Sitz s = job->sitz;
+    if (job->ansage && ablauf_.ansageMoeglich(s)) ablauf_.ansagen(s, *job->ansage);
+    int pos = job->karte;
+    if (!ablauf_.antworten(Antwort::karte(pos))) {
+        pos = engine::ersteErlaubteKarte(spiel_, s);
+        ablauf_.antworten(Antwort::karte(pos));
+    }
+    meldungenZeigen();
+    karteGelegt(pos, s);
+}
+
+void Tischsteuerung::tipp() {
+    const Anfrage a = ablauf_.anfrage();
+    if (a.art != Anfrageart::Karte || !menschGefragt(a) || beschaeftigt_) {
+        hfo_.statusSetzen(QString::fromUtf8(texte::TippNichtAmZug));
+        return;
+    }
+    if (tippLaeuft_) return;
+    players::Starkart art;
+    art.suche.simulationen = players::simulationenFuer(bedenkzeit_);
+    auto job = denkjob(Sitz(1), art, static_cast<std::uint64_t>(spiel_.partie.spielNr) * 7919 + 1);
+    hfo_.statusSetzen(QString::fromUtf8(texte::TippUeberlegt));
+    if (tippDenker_.joinable()) tippDenker_.join();
+    tippLaeuft_ = true;
+    tippDenker_ = std::thread([this, job] {
+        job->erklaerung = job->stark.karteErklaeren(job->spiel, job->sitz);
+        QMetaObject::invokeMethod(this, [this, job] { tippGedacht(job); }, Qt::QueuedConnection);
+    });
+}
+
+void Tischsteuerung::tippGedacht(const std::shared_ptr<Denkjob>& job) {
+    if (tippDenker_.joinable()) tippDenker_.join();
+    tippLaeuft_ = false;
+    // The person played meanwhile: the hint is for a position that is gone.
+    if (!stimmtNoch(*job) || !menschGefragt(ablauf_.anfrage())) return;
+    const bool franz = engine::franzoesischeBilder(optionen_.kartenbild);
+    hfo_.tisch().setzeAusgewaehlt(job->erklaerung.karte);
+    hfo_.statusSetzen(QString::fromUtf8(texte::TippVorsatz) +
+                      t(players::erklaerungText(job->erklaerung, spiel_, franz)));
+}
 
 void Tischsteuerung::setzeOptionen(const Anzeigeoptionen& optionen) {
     optionen_ = optionen;
@@ -136,6 +250,8 @@ void Tischsteuerung::setzeEntscheider(Sitz sitz, std::shared_ptr<engine::Entsche
 
 void Tischsteuerung::spielerPassend() {
     players::Spielerumgebung umgebung{wissen_, *zufall_, &protokoll_};
+    umgebung.bedenkzeit = bedenkzeit_;
+    umgebung.seed = static_cast<std::uint64_t>(spiel_.partie.partieNr) * 104729;
     for (const Sitz s : engine::alleSitze) {
         if (vorgegeben_[s] || (entscheider_[s] && gebaut_[s] == spiel_.charakter[s])) continue;
         entscheider_[s] = players::spielerErzeugen(spielerartFuer(spiel_.charakter[s]), umgebung);
@@ -496,6 +612,7 @@ void Tischsteuerung::computerKarte() {
     const Sitz s = *a.sitz;
     engine::Entscheider& e = entscheider(s);
     if (s == Sitz(1) && netz_ && !netz_->darfAntworten()) return weiter();
+    if (const auto* stark = dynamic_cast<const players::Stark*>(&e)) return denkenLassen(s, *stark);
     if (ablauf_.ansageMoeglich(s))
         if (const auto ansage = e.ansageWaehlen(spiel_, s)) ansagen(s, *ansage);
     int pos = e.karteWaehlen(spiel_, s);

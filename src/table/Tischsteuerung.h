@@ -5,9 +5,11 @@
 // window's menus, status line and table in step. Nothing here waits in a loop:
 // every step is a slot that runs when its timer, click or animation is done.
 #include <QObject>
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <thread>
 #include <tuple>
 #include <vector>
 
@@ -21,6 +23,11 @@
 #include "engine/Zufall.h"
 #include "players/Begruendungsprotokoll.h"
 #include "players/Tischwissen.h"
+
+namespace players {
+class Stark;
+struct Starkart;
+}  // namespace players
 
 namespace table {
 
@@ -51,6 +58,8 @@ public:
     void setzeTempo(Tempo tempo);
     // The seats' "charakter" (kind of computer player); taken over with the next deal.
     void setzeCharaktere(const engine::ProSitz<int>& charaktere);
+    // Thinking time of the strong player (character 3) in ms; taken over with the next player made.
+    void setzeBedenkzeit(int ms);
     // Puts a fixed player at a seat instead of the one its character names (tests).
     void setzeEntscheider(engine::Sitz sitz, std::shared_ptr<engine::Entscheider> entscheider);
     // Asked at every deal; a distribution it returns is dealt instead of a random one.
@@ -122,8 +131,17 @@ private slots:
     void letzterStich();
     void alleStiche();
     void spielzettelZeigen();
+    void tipp();
 
 private:
+    struct Denkjob;
+    // A strong player thinks on a thread of its own; the window goes on meanwhile and
+    // plays the result when it comes, unless the game has moved on.
+    void denkenLassen(engine::Sitz sitz, const players::Stark& stark);
+    void gedacht(const std::shared_ptr<Denkjob>& job);
+    void tippGedacht(const std::shared_ptr<Denkjob>& job);
+    bool stimmtNoch(const Denkjob& job) const;
+    std::shared_ptr<Denkjob> denkjob(engine::Sitz sitz, const players::Starkart& art, std::uint64_t seed);
     // Runs a box or dialog of ours and returns what it returns; the game waits meanwhile.
     template <class F>
     auto modal(F&& zeigen);
@@ -190,6 +208,11 @@ private:
     int schritt_ = 0;             // counts Partien, so a timer of an abandoned one does nothing
     Netzanbindung* netz_ = nullptr;
     std::vector<std::pair<int, engine::Sitz>> fremdeKarten_;  // played at another machine, not yet shown
+    int bedenkzeit_ = 500;
+    std::thread denker_;          // a computer seat thinking
+    std::shared_ptr<Denkjob> denkjob_;  // what denker_ works on
+    std::thread tippDenker_;      // the hint being worked out
+    std::atomic<bool> tippLaeuft_{false};
 };
 
 }  // namespace table

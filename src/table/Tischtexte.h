@@ -10,6 +10,10 @@ inline constexpr char Aufloesungswarnung[] = "Wir empfehlen eine Bildschirmaufl√
 // Menus.
 inline constexpr char MenuSpiel[] = "&Spiel";
 inline constexpr char NeuePartie[] = "&Neue Partie";
+inline constexpr char Tipp[] = "&Tipp";
+inline constexpr char TippUeberlegt[] = "Tipp: der starke Spieler √ºberlegt...";
+inline constexpr char TippNichtAmZug[] = "Einen Tipp gibt es, wenn Sie eine Karte spielen sollen.";
+inline constexpr char TippVorsatz[] = "Tipp: ";
 inline constexpr char EinstellungenMenue[] = "&Einstellungen...";
 inline constexpr char NetzprotokollZeigen[] = "&Netzprotokoll zeigen";
 inline constexpr char FoyerMenue[] = "Internet-&Foyer...";

@@ -14,10 +14,11 @@ TEST(Kommandozeile, GueltigeAufrufe) {
     EXPECT_EQ(a.aufruf->jsonDatei, "-");
     EXPECT_TRUE(a.aufruf->statistik);
 
-    a = kommandozeileAuswerten({"--tournament", "20", "--players", "regelwerk,zufall"});
+    a = kommandozeileAuswerten({"--tournament", "20", "--players", "regelwerk,zufall", "--bedenkzeit", "50"});
     ASSERT_TRUE(a.aufruf);
     EXPECT_EQ(a.aufruf->modus, Modus::Turnier);
     EXPECT_EQ(a.aufruf->spieler, (std::vector<std::string>{"regelwerk", "zufall"}));
+    EXPECT_EQ(a.aufruf->bedenkzeit, 50);
 
     a = kommandozeileAuswerten({"--host", "--port", "0", "--auto", "--guests", "3", "--games", "5", "--tick", "0"});
     ASSERT_TRUE(a.aufruf) << a.fehler;
@@ -42,7 +43,7 @@ TEST(Kommandozeile, GueltigeAufrufe) {
 TEST(Kommandozeile, FehlerWerdenGemeldet) {
     const std::vector<std::vector<std::string>> falsch{
         {"--autoplay"}, {"--autoplay", "x"}, {"--autoplay", "-3"}, {"--seed", "1a"}, {"--players", "a"},
-        {"--port", "70000"}, {"--gibtsnicht"}, {"--games", "0"}, {"--guests", "4"}, {"--tick", "-1"}, {"--foyer"}};
+        {"--port", "70000"}, {"--gibtsnicht"}, {"--games", "0"}, {"--guests", "4"}, {"--tick", "-1"}, {"--foyer"}, {"--bedenkzeit", "0"}};
     for (const auto& args : falsch) {
         const auto a = kommandozeileAuswerten(args);
         EXPECT_FALSE(a.aufruf) << args[0];

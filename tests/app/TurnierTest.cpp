@@ -50,5 +50,5 @@ TEST(Turnier, StartwertBestimmtDasErgebnis) {
     EXPECT_EQ(statistik.entscheidungen, 80 * 24);
     auftrag.seed = 6;
     EXPECT_NE(app::turnier(auftrag).diff, eins.diff);
-    EXPECT_EQ(app::turnierZeile(auftrag, {80, 0.25, 0.125, 0}), "A=regelwerk B=zufall games=80 diff=0.2500 ci95=0.1250");
+    EXPECT_EQ(app::turnierZeile(auftrag, {80, 0.25, 0.125, 0, {}}), "A=regelwerk B=zufall games=80 diff=0.2500 ci95=0.1250");
 }

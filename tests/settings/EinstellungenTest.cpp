@@ -121,7 +121,7 @@ TEST(EinstellungenSchreiben, SchluesselUndReihenfolge) {
         "Sopu_karlchen", "Sopu_doppelkarlchen", "Sopu_rupa_b_Solo", "Sopu_Dollenschlag", "Sopu_Herzstich",
         "DaBu_Solo", "Neunerwerfen", "Koenigewerfen", "Armut", "Scharfer_Rupa", "Zwei_Schweine",
         "Schweine_ansagen", "Schweine_b_TrSolo", "Supersau", "Stille_befoerderung", "Vollbild",
-        "Augen_zeigen", "Partei_zeigen", "Geräusch", "Solis"};
+        "Augen_zeigen", "Partei_zeigen", "Geräusch", "Solis", "Bedenkzeit"};
     EXPECT_EQ(schluesselDerDatei(d), erwartet);
     EXPECT_EQ(d.zeilen().front(), "[Optionen]");
     EXPECT_EQ(d.wert("Optionen", "Programm"), "Trumpona");

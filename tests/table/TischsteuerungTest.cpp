@@ -205,6 +205,44 @@ TEST_F(TischsteuerungTest, GanzesSpielMitGeklicktenKartenVonSitz1) {
     }
 }
 
+// Three strong players think on threads of their own while the window goes on; the
+// person asks for a hint before every card, which lifts a legal card and says why.
+TEST_F(TischsteuerungTest, StarkeSpielerUndTipp) {
+    table::Tischansicht& tisch = hfo_.tisch();
+    const engine::Spiel& spiel = steuerung_.spiel();
+    steuerung_.setzeBedenkzeit(10);
+    steuerung_.setzeCharaktere(engine::ProSitz<int>(3));
+    int tipps = 0;
+    int gedacht = 0;
+    bool tippGefragt = false;
+    QTimer spieler;
+    QObject::connect(&spieler, &QTimer::timeout, [&] {
+        if (hfo_.status().endsWith(QStringLiteral(" überlegt..."))) ++gedacht;
+        if (!tisch.kartenwahl() || QApplication::activeModalWidget()) return;
+        if (!tippGefragt) {
+            tippGefragt = true;
+            hfo_.tippAktion()->trigger();
+            return;
+        }
+        const QString status = hfo_.status();
+        if (!status.startsWith(QStringLiteral("Tipp: ")) || status.contains(QStringLiteral("überlegt"))) return;
+        const int karte = tisch.ausgewaehlt();
+        ASSERT_TRUE(engine::karteErlaubt(spiel, Sitz(1), karte)) << status.toStdString();
+        if (++tipps == 1) testhilfe::bildAblegen(hfo_, QStringLiteral("tipp"));
+        tippGefragt = false;
+        QTest::mouseClick(&tisch, Qt::LeftButton, {}, tisch.kartenmitte(karte).toPoint());
+    });
+    spieler.start(3);
+    QSignalSpy gewertet(&steuerung_, &table::Tischsteuerung::spielGewertet);
+    steuerung_.neuePartie();
+    ASSERT_TRUE(gewertet.wait(120000));
+    spieler.stop();
+    EXPECT_EQ(steuerung_.letztesSpiel().stiche.size(), 12u);
+    EXPECT_EQ(tipps, 12);
+    EXPECT_GT(gedacht, 0);
+    EXPECT_TRUE(boxen_.falscheKarte.empty());
+}
+
 // Automatic play runs through games without anybody at the table: the game's
 // messages pass in the status line and the end box closes by itself.
 TEST_F(TischsteuerungTest, AutomatikWartetAufKeineBox) {

@@ -1,5 +1,6 @@
 #include "Zeichensatz.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -73,14 +74,42 @@ char32_t klein(char32_t cp) {
     }
 }
 
+// Keys are nearly always ASCII and need no decoding: lower-cases in place and
+// says whether every byte was ASCII. A table, not a comparison per byte, since
+// this runs for every key looked up.
+bool asciiFalten(char* text, std::size_t laenge) {
+    static constexpr auto klein = [] {
+        std::array<unsigned char, 256> t{};
+        for (unsigned i = 0; i < 256; ++i) t[i] = static_cast<unsigned char>(i >= 'A' && i <= 'Z' ? i + 0x20 : i);
+        return t;
+    }();
+    unsigned alle = 0;
+    for (std::size_t i = 0; i < laenge; ++i) {
+        const auto b = static_cast<unsigned char>(text[i]);
+        alle |= b;
+        text[i] = static_cast<char>(klein[b]);
+    }
+    return (alle & 0x80) == 0;
+}
+
 }  // namespace
+
+Gefaltet::Gefaltet(std::string_view text) {
+    if (text.size() <= kurz_.size()) {
+        std::copy(text.begin(), text.end(), kurz_.begin());
+        laenge_ = text.size();
+        if (asciiFalten(kurz_.data(), laenge_)) return;
+    }
+    lang_ = faltung(text);  // never empty: an empty text is folded in place
+}
 
 std::string cp1252NachUtf8(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size());
     for (const char c : bytes) {
         const auto b = static_cast<unsigned char>(c);
-        if (b >= 0x80 && b < 0xA0) anhaengen(text, obereSteuerzeichen[b - 0x80]);
+        if (b < 0x80) text.push_back(c);
+        else if (b < 0xA0) anhaengen(text, obereSteuerzeichen[b - 0x80]);
         else anhaengen(text, b);
     }
     return text;
@@ -90,6 +119,10 @@ std::string utf8NachCp1252(std::string_view text) {
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t i = 0; i < text.size();) {
+        if (static_cast<unsigned char>(text[i]) < 0x80) {
+            bytes.push_back(text[i++]);
+            continue;
+        }
         char32_t cp = 0;
         if (!naechsterCodepunkt(text, i, cp)) {
             bytes.push_back('?');
@@ -110,6 +143,10 @@ std::string utf8NachCp1252(std::string_view text) {
 
 bool istGueltigesUtf8(std::string_view bytes) {
     for (std::size_t i = 0; i < bytes.size();) {
+        if (static_cast<unsigned char>(bytes[i]) < 0x80) {
+            ++i;
+            continue;
+        }
         char32_t cp = 0;
         if (!naechsterCodepunkt(bytes, i, cp)) return false;
     }
@@ -149,8 +186,9 @@ std::vector<std::string> dateiZeilen(std::string_view bytes) {
 }
 
 std::string faltung(std::string_view text) {
-    std::string ergebnis;
-    ergebnis.reserve(text.size());
+    std::string ergebnis(text);
+    if (asciiFalten(ergebnis.data(), ergebnis.size())) return ergebnis;
+    ergebnis.clear();
     for (std::size_t i = 0; i < text.size();) {
         const std::size_t anfang = i;
         char32_t cp = 0;

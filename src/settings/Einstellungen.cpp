@@ -152,6 +152,8 @@ Einstellungen ausProfil(const Profildatei& datei, const Einstellungen& vorgaben,
             }
         }
     }
+    // A file with "Zweite schlägt Erste" and the Joker gets the Dollen rule alone.
+    engine::jokerAbgleichen(e.regeln);
     if (!kontext.tonVerfuegbar) {
         e.sprachausgabe = 0;
         e.geraeusch = 0;

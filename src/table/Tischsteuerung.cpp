@@ -143,6 +143,7 @@ void Tischsteuerung::ablaufZuruecksetzen() {
 }
 
 void Tischsteuerung::neuePartie() {
+    begonnen_ = true;
     ablaufZuruecksetzen();
     zeilen_.clear();
     letztesSpiel_ = engine::Spiel{};
@@ -153,6 +154,7 @@ void Tischsteuerung::neuePartie() {
 }
 
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
+    begonnen_ = true;
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
     spiel_ = stand;
@@ -232,7 +234,7 @@ void Tischsteuerung::meldungenZeigen() {
 // One step of the game: show the state, then answer the open request or wait for
 // the person, a timer or an animation.
 void Tischsteuerung::weiter() {
-    if (beschaeftigt_ || imDialog_ || geplant_) return;
+    if (!begonnen_ || beschaeftigt_ || imDialog_ || geplant_) return;
     meldungenZeigen();
     begruendungenZeigen();
     const Anfrage a = ablauf_.anfrage();

@@ -140,6 +140,7 @@ private:
     std::vector<engine::Meldung> meldungen_;
     std::vector<engine::ProSitz<int>> zeilen_;
     engine::Spiel letztesSpiel_;  // the last scored game, for its tricks
+    bool begonnen_ = false;       // nothing is dealt before a Partie is begun or a game taken over
     bool geplant_ = false;        // a step is scheduled
     bool beschaeftigt_ = false;   // a card flies or a trick is being collected
     bool imDialog_ = false;       // a modal dialog of ours is open

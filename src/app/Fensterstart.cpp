@@ -1,10 +1,12 @@
 #include "Fensterstart.h"
 
+#include <QAction>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QTimer>
+#include <algorithm>
 #include <iostream>
 
 #include "Oberflaeche.h"
@@ -28,12 +30,33 @@ namespace {
 
 bool wahr(int wert) { return wert != 0; }
 
+// For start-and-quit soaks: TRUMPONA_BEENDEN_NACH=ms ends the program through its
+// menu that long after the start, as a person would: close whatever box is open
+// (Escape), then "Beenden" in the game menu.
+void beendenNachUmgebung(table::Hauptfenster& hfo) {
+    bool gesetzt = false;
+    const int ms = qEnvironmentVariableIntValue("TRUMPONA_BEENDEN_NACH", &gesetzt);
+    if (!gesetzt) return;
+    auto* takt = new QTimer(&hfo);
+    takt->setInterval(50);
+    QObject::connect(takt, &QTimer::timeout, &hfo, [&hfo] {
+        if (QWidget* offen = QApplication::activeModalWidget()) {
+            if (auto* dialog = qobject_cast<QDialog*>(offen)) dialog->reject();
+            else offen->close();
+            return;
+        }
+        hfo.endeAktion()->trigger();
+    });
+    QTimer::singleShot(std::max(ms, 0), takt, qOverload<>(&QTimer::start));
+}
+
 }  // namespace
 
 int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     QElapsedTimer uhr;
     uhr.start();
     const auto anwendung = anwendungStarten(argc, argv, false);
+    if (!anwendung) return 1;
     QScreen* schirm = QGuiApplication::primaryScreen();
     const QSize bildschirm = schirm ? schirm->size() : QSize(1024, 768);
     settings::Benutzerspeicher speicher(bildschirm.width());
@@ -88,6 +111,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
         // For measuring the start: TRUMPONA_STARTZEIT prints when the table first stood.
         if (qEnvironmentVariableIsSet("TRUMPONA_STARTZEIT"))
             QTimer::singleShot(0, [&] { std::cerr << "Tisch sichtbar nach " << uhr.elapsed() << " ms\n"; });
+        beendenNachUmgebung(hfo);
         programm.starten(ladeDatei);
     });
     const int ergebnis = QApplication::exec();

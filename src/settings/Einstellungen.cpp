@@ -170,10 +170,14 @@ void inProfil(Profildatei& datei, const Einstellungen& e, std::string_view progr
         datei.setze(Abschnitt, charakterSchluessel(sitz), std::to_string(e.charakter[i]));
     }
     datei.setze(Abschnitt, "Versionsnr", std::to_string(Formatversion));
+    // Each key's field, found once.
+    static const auto felder = [] {
+        std::vector<std::pair<std::string_view, Feldort>> liste;
+        for (const auto schluessel : schreibschluessel()) liste.emplace_back(schluessel, feldorte().at(faltung(schluessel)));
+        return liste;
+    }();
     Einstellungen kopie = e;
-    for (const auto schluessel : schreibschluessel()) {
-        datei.setze(Abschnitt, schluessel, std::to_string(*feld(kopie, schluessel)));
-    }
+    for (const auto& [schluessel, ort] : felder) datei.setze(Abschnitt, schluessel, std::to_string(*ort.in(kopie)));
 }
 
 Import importieren(const Profildatei& datei, const Einstellungen& aktuell, const Lesekontext& kontext,

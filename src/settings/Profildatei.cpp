@@ -10,40 +10,42 @@ namespace settings {
 
 namespace {
 
-constexpr std::string_view Leerraum = " \t";
+bool leer(char c) { return c == ' ' || c == '\t'; }
 
 std::string_view getrimmt(std::string_view s) {
-    const auto anfang = s.find_first_not_of(Leerraum);
-    if (anfang == std::string_view::npos) return {};
-    const auto ende = s.find_last_not_of(Leerraum);
-    return s.substr(anfang, ende - anfang + 1);
+    while (!s.empty() && leer(s.front())) s.remove_prefix(1);
+    while (!s.empty() && leer(s.back())) s.remove_suffix(1);
+    return s;
 }
 
 bool istKommentar(std::string_view getrimmteZeile) {
     return getrimmteZeile.starts_with(';') || getrimmteZeile.starts_with('#');
 }
 
-// The section name of a header line "[name]", or nothing.
-std::optional<std::string_view> abschnittsname(std::string_view zeile) {
-    const auto z = getrimmt(zeile);
+// The section name of a header line "[name]" (given without its blanks), or nothing.
+std::optional<std::string_view> abschnittsnameGetrimmt(std::string_view z) {
     if (!z.starts_with('[')) return std::nullopt;
     const auto zu = z.rfind(']');
     if (zu == std::string_view::npos || zu == 0) return std::nullopt;
     return getrimmt(z.substr(1, zu - 1));
 }
 
+std::optional<std::string_view> abschnittsname(std::string_view zeile) { return abschnittsnameGetrimmt(getrimmt(zeile)); }
+
 struct Zeileneintrag {
     std::string_view schluessel;
     std::string_view wert;
 };
 
-std::optional<Zeileneintrag> eintrag(std::string_view zeile) {
-    const auto z = getrimmt(zeile);
+// A line "key=value" (given without its blanks), or nothing.
+std::optional<Zeileneintrag> eintragGetrimmt(std::string_view z) {
     if (z.empty() || istKommentar(z) || z.starts_with('[')) return std::nullopt;
     const auto gleich = z.find('=');
     if (gleich == std::string_view::npos) return std::nullopt;
     return Zeileneintrag{getrimmt(z.substr(0, gleich)), getrimmt(z.substr(gleich + 1))};
 }
+
+std::optional<Zeileneintrag> eintrag(std::string_view zeile) { return eintragGetrimmt(getrimmt(zeile)); }
 
 std::string einzeilig(std::string_view wert) {
     std::string s(wert.substr(0, wert.find('\0')));
@@ -81,7 +83,8 @@ std::string Profildatei::bytes() const {
 }
 
 Profildatei::Abschnittsort* Profildatei::verzeichnen(std::size_t zeile, Abschnittsort* abschnitt) {
-    if (const auto name = abschnittsname(zeilen_[zeile])) {
+    const std::string_view z = getrimmt(zeilen_[zeile]);
+    if (const auto name = abschnittsnameGetrimmt(z)) {
         const Gefaltet gefaltet(*name);
         auto ort = orte_.find(gefaltet.sicht());
         if (ort == orte_.end()) ort = orte_.emplace(gefaltet.sicht(), Abschnittsort{zeile, 0, {}}).first;
@@ -89,7 +92,7 @@ Profildatei::Abschnittsort* Profildatei::verzeichnen(std::size_t zeile, Abschnit
         return &ort->second;
     }
     if (!abschnitt) return nullptr;
-    if (const auto e = eintrag(zeilen_[zeile])) {
+    if (const auto e = eintragGetrimmt(z)) {
         const Gefaltet gefaltet(e->schluessel);
         const auto ort = abschnitt->schluessel.find(gefaltet.sicht());
         if (ort == abschnitt->schluessel.end()) abschnitt->schluessel.emplace(gefaltet.sicht(), zeile);
@@ -140,14 +143,17 @@ void Profildatei::einfuegen(std::size_t zeile, std::string text, Abschnittsort& 
 
 void Profildatei::setze(std::string_view abschnitt, std::string_view schluessel, std::string_view wert) {
     const std::string neuerWert = einzeilig(wert);
-    if (const auto zeile = schluesselZeile(abschnitt, schluessel)) {
-        std::string& text = zeilen_[*zeile];
-        const auto name = eintrag(text)->schluessel;
-        text = std::string(name) + "=" + neuerWert;
-        return;
+    const auto ort = orte_.find(Gefaltet(abschnitt).sicht());
+    if (ort != orte_.end()) {
+        const auto zeile = ort->second.schluessel.find(Gefaltet(schluessel).sicht());
+        if (zeile != ort->second.schluessel.end()) {
+            std::string& text = zeilen_[zeile->second];
+            const auto name = eintrag(text)->schluessel;
+            text = std::string(name) + "=" + neuerWert;
+            return;
+        }
     }
     std::string neueZeile = std::string(schluessel) + "=" + neuerWert;
-    const auto ort = orte_.find(Gefaltet(abschnitt).sicht());
     if (ort == orte_.end()) {
         if (!zeilen_.empty() && !getrimmt(zeilen_.back()).empty()) zeilen_.emplace_back();
         zeilen_.push_back("[" + std::string(abschnitt) + "]");

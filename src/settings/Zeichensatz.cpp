@@ -92,6 +92,13 @@ bool asciiFalten(char* text, std::size_t laenge) {
     return (alle & 0x80) == 0;
 }
 
+// How many bytes at the start are ASCII: a file is mostly runs of them, copied whole.
+std::size_t asciiLaenge(std::string_view s) {
+    std::size_t n = 0;
+    while (n < s.size() && static_cast<unsigned char>(s[n]) < 0x80) ++n;
+    return n;
+}
+
 }  // namespace
 
 Gefaltet::Gefaltet(std::string_view text) {
@@ -106,11 +113,13 @@ Gefaltet::Gefaltet(std::string_view text) {
 std::string cp1252NachUtf8(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size());
-    for (const char c : bytes) {
-        const auto b = static_cast<unsigned char>(c);
-        if (b < 0x80) text.push_back(c);
-        else if (b < 0xA0) anhaengen(text, obereSteuerzeichen[b - 0x80]);
-        else anhaengen(text, b);
+    for (std::size_t i = 0; i < bytes.size();) {
+        const std::size_t ascii = asciiLaenge(bytes.substr(i));
+        text.append(bytes.substr(i, ascii));
+        i += ascii;
+        if (i == bytes.size()) break;
+        const auto b = static_cast<unsigned char>(bytes[i++]);
+        anhaengen(text, b < 0xA0 ? obereSteuerzeichen[b - 0x80] : b);
     }
     return text;
 }
@@ -119,10 +128,10 @@ std::string utf8NachCp1252(std::string_view text) {
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t i = 0; i < text.size();) {
-        if (static_cast<unsigned char>(text[i]) < 0x80) {
-            bytes.push_back(text[i++]);
-            continue;
-        }
+        const std::size_t ascii = asciiLaenge(text.substr(i));
+        bytes.append(text.substr(i, ascii));
+        i += ascii;
+        if (i == text.size()) break;
         char32_t cp = 0;
         if (!naechsterCodepunkt(text, i, cp)) {
             bytes.push_back('?');
@@ -143,10 +152,8 @@ std::string utf8NachCp1252(std::string_view text) {
 
 bool istGueltigesUtf8(std::string_view bytes) {
     for (std::size_t i = 0; i < bytes.size();) {
-        if (static_cast<unsigned char>(bytes[i]) < 0x80) {
-            ++i;
-            continue;
-        }
+        i += asciiLaenge(bytes.substr(i));
+        if (i == bytes.size()) break;
         char32_t cp = 0;
         if (!naechsterCodepunkt(bytes, i, cp)) return false;
     }

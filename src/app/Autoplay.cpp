@@ -2,7 +2,6 @@
 
 #include <cstdio>
 #include <fstream>
-#include <iomanip>
 #include <iostream>
 #include <random>
 #include <vector>
@@ -10,6 +9,7 @@
 #include "Computertisch.h"
 #include "RegelDatei.h"
 #include "SpielJson.h"
+#include "Spielliste.h"
 #include "engine/Schiedsrichter.h"
 #include "engine/Selbstspiel.h"
 #include "engine/Spielablauf.h"
@@ -20,37 +20,6 @@
 namespace app {
 
 using engine::Sitz;
-
-namespace {
-
-struct Partiezeile {
-    int partie = 0;
-    int spiele = 0;
-    bool beendet = false;
-    engine::ProSitz<int> stand;
-};
-
-void bogenSchreiben(std::ostream& aus, const std::vector<Partiezeile>& zeilen, const engine::Spiel& spiel,
-                    const Autoplayauftrag& auftrag) {
-    aus << "Spielliste: " << auftrag.spiele << " Spiele, Startwert " << auftrag.seed << "\n";
-    aus << std::setw(7) << "Partie" << std::setw(8) << "Spiele";
-    for (const Sitz s : engine::alleSitze) aus << std::setw(12) << spiel.namen[s];
-    aus << "\n";
-    engine::ProSitz<int> summe(0);
-    for (const Partiezeile& z : zeilen) {
-        aus << std::setw(7) << z.partie << std::setw(8) << z.spiele;
-        for (const Sitz s : engine::alleSitze) {
-            aus << std::setw(12) << z.stand[s];
-            summe[s] += z.stand[s];
-        }
-        aus << (z.beendet ? "" : "  (läuft)") << "\n";
-    }
-    aus << std::setw(15) << "Summe";
-    for (const Sitz s : engine::alleSitze) aus << std::setw(12) << summe[s];
-    aus << "\n";
-}
-
-}  // namespace
 
 int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& bogen) {
     engine::Spiel spiel = auftrag.start.value_or(engine::Spiel{});
@@ -75,17 +44,13 @@ int autoplay(const Autoplayauftrag& auftrag, std::ostream* json, std::ostream& b
     const Computertisch tisch(ablauf, zufall, {"regelwerk", "regelwerk", "regelwerk", "regelwerk"},
                               auftrag.statistik ? &senken : nullptr);
     const engine::ProSitz<engine::Entscheider*> entscheider = tisch.entscheider();
-    std::vector<Partiezeile> zeilen;
+    Spielliste liste;
     engine::Selbstspiel selbstspiel(ablauf, entscheider);
     const auto bilanz = selbstspiel.spielen(auftrag.spiele, [&](const engine::Spiel& s) {
         if (json) *json << spielAlsJson(s) << '\n';
-        if (zeilen.empty() || zeilen.back().partie != s.partie.partieNr)
-            zeilen.push_back({s.partie.partieNr, 0, false, {}});
-        zeilen.back().spiele = s.partie.spielNr;
-        zeilen.back().beendet = s.ergebnis.partieEnde;
-        zeilen.back().stand = s.partie.punkte;
+        liste.spielGewertet(s);
     });
-    bogenSchreiben(bogen, zeilen, spiel, auftrag);
+    liste.schreiben(bogen, spiel, auftrag.spiele, auftrag.seed);
     if (auftrag.statistik) bogen << statistik.bericht() << spielstatistik.bericht();
     for (const std::string& f : schiedsrichter.fehler()) bogen << "Regelverstoß: " << f << "\n";
     for (const std::string& g : bilanz.gruende) bogen << "Abgelehnt: " << g << "\n";
@@ -116,34 +81,40 @@ int autoplayStarten(const Aufruf& aufruf) {
         auftrag.regeln = optionen->regeln;
         auftrag.namen = optionen->namen;
     }
-    if (aufruf.jsonDatei == "-") {
+    return mitJsonAusgabe(aufruf.jsonDatei, [&](std::ostream* json, std::ostream& bogen) {
+        return autoplay(auftrag, json, bogen) == 0 ? 0 : 1;
+    });
+}
+
+int mitJsonAusgabe(const std::string& jsonDatei, const std::function<int(std::ostream*, std::ostream&)>& lauf) {
+    if (jsonDatei == "-") {
         std::ios::sync_with_stdio(false);
-        return autoplay(auftrag, &std::cout, std::cerr) == 0 ? 0 : 1;
+        return lauf(&std::cout, std::cerr);
     }
-    if (aufruf.jsonDatei.empty()) return autoplay(auftrag, nullptr, std::cout) == 0 ? 0 : 1;
+    if (jsonDatei.empty()) return lauf(nullptr, std::cout);
 
     // Written beside the target and renamed, so a broken run never leaves half a file.
-    const std::string vorlaeufig = aufruf.jsonDatei + ".tmp";
-    int fehler = 0;
+    const std::string vorlaeufig = jsonDatei + ".tmp";
+    int status = 0;
     {
         std::ofstream datei(vorlaeufig, std::ios::binary | std::ios::trunc);
         if (!datei) {
-            std::cerr << "trumpona: " << aufruf.jsonDatei << " kann nicht geschrieben werden.\n";
+            std::cerr << "trumpona: " << jsonDatei << " kann nicht geschrieben werden.\n";
             return 2;
         }
-        fehler = autoplay(auftrag, &datei, std::cout);
+        status = lauf(&datei, std::cout);
         datei.flush();
         if (!datei) {
-            std::cerr << "trumpona: " << aufruf.jsonDatei << " kann nicht geschrieben werden.\n";
+            std::cerr << "trumpona: " << jsonDatei << " kann nicht geschrieben werden.\n";
             std::remove(vorlaeufig.c_str());
             return 2;
         }
     }
-    if (std::rename(vorlaeufig.c_str(), aufruf.jsonDatei.c_str()) != 0) {
-        std::cerr << "trumpona: " << aufruf.jsonDatei << " kann nicht geschrieben werden.\n";
+    if (std::rename(vorlaeufig.c_str(), jsonDatei.c_str()) != 0) {
+        std::cerr << "trumpona: " << jsonDatei << " kann nicht geschrieben werden.\n";
         return 2;
     }
-    return fehler == 0 ? 0 : 1;
+    return status;
 }
 
 }  // namespace app

@@ -2,6 +2,7 @@
 // Headless play: four computer players play N games, Partie after Partie.
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -33,5 +34,11 @@ bool laufVorbereiten(const Aufruf& aufruf, std::uint64_t& seed, std::optional<se
 
 // The --autoplay mode: reads --rules, opens --json, runs; returns the exit status.
 int autoplayStarten(const Aufruf& aufruf);
+
+// Runs `lauf` with the JSON lines going to --json (a file written atomically, or
+// "-" for standard output) and the score sheet to standard output, or to standard
+// error when the JSON takes standard output. Returns what `lauf` returns, or 2
+// when the file cannot be written.
+int mitJsonAusgabe(const std::string& jsonDatei, const std::function<int(std::ostream*, std::ostream&)>& lauf);
 
 }  // namespace app

@@ -1,5 +1,6 @@
 #include "Fensterstart.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QElapsedTimer>
 #include <QMessageBox>
@@ -9,7 +10,11 @@
 #include <algorithm>
 #include <iostream>
 
+#include "Foyertisch.h"
+#include "Installation.h"
 #include "Oberflaeche.h"
+#include "foyer/Foyerprogramm.h"
+#include "net/Namen.h"
 #include "engine/Kartentext.h"
 #include "settings/Benutzerspeicher.h"
 #include "settings/Optionsdatei.h"
@@ -20,9 +25,12 @@
 #include "table/Dateiwahl.h"
 #include "table/Fensterplatz.h"
 #include "table/Hauptfenster.h"
+#include "table/Netzspiel.h"
 #include "table/Tischprogramm.h"
 #include "table/Tischsteuerung.h"
 #include "table/Tischtexte.h"
+#include "table/Turnierpartie.h"
+#include "services/Ergebnisablage.h"
 
 namespace app {
 
@@ -32,7 +40,7 @@ bool wahr(int wert) { return wert != 0; }
 
 // For start-and-quit soaks: TRUMPONA_BEENDEN_NACH=ms ends the program through its
 // menu that long after the start, as a person would: close whatever box is open
-// (Escape), then "Beenden" in the game menu.
+// (Escape), choose "&Ende" in the game menu, and there end without saving.
 void beendenNachUmgebung(table::Hauptfenster& hfo) {
     bool gesetzt = false;
     const int ms = qEnvironmentVariableIntValue("TRUMPONA_BEENDEN_NACH", &gesetzt);
@@ -41,7 +49,13 @@ void beendenNachUmgebung(table::Hauptfenster& hfo) {
     takt->setInterval(50);
     QObject::connect(takt, &QTimer::timeout, &hfo, [&hfo] {
         if (QWidget* offen = QApplication::activeModalWidget()) {
-            if (auto* dialog = qobject_cast<QDialog*>(offen)) dialog->reject();
+            auto* frage = qobject_cast<QMessageBox*>(offen);
+            const auto knoepfe = frage ? frage->buttons() : QList<QAbstractButton*>{};
+            const auto beenden = std::find_if(knoepfe.begin(), knoepfe.end(), [frage](QAbstractButton* k) {
+                return frage->buttonRole(k) == QMessageBox::DestructiveRole;
+            });
+            if (beenden != knoepfe.end()) (*beenden)->click();
+            else if (auto* dialog = qobject_cast<QDialog*>(offen)) dialog->reject();
             else offen->close();
             return;
         }
@@ -76,6 +90,8 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     table::Dateidialoge dateidialoge;
     table::Tischprogramm programm(hfo, steuerung, speicher, dateidialoge, settings::optionsdateiPfad());
     programm.setzeLesekontext(kontext);
+    programm.setzeSicherungsdatei(table::Tischprogramm::standardSicherungsdatei());
+    table::Turnierpartie turnier(hfo, steuerung, programm, services::ergebnisordner());
 
     sound::QtKlanggeraet geraet;
     sound::Klangspieler klangspieler(geraet);
@@ -86,10 +102,13 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     };
     QObject::connect(&programm, &table::Tischprogramm::einstellungenUebernommen, klangEinstellen);
     programm.EinstUebernehmen(einstellungen, programm.benutzer());
-    klangspieler.soundOeffnen(QCoreApplication::applicationDirPath().toStdString());
+    klangspieler.soundOeffnen(klangordner(QCoreApplication::applicationDirPath()).toStdString());
     steuerung.ablauf().beobachterHinzufuegen(&klaenge);
     QObject::connect(&steuerung, &table::Tischsteuerung::menschAmZug, [&] { klaenge.duBistDran(); });
     QObject::connect(&steuerung, &table::Tischsteuerung::supersauGemeldet, [&] { klaenge.supersau(); });
+    table::Netzspiel netz(hfo, steuerung, programm, speicher);
+    QObject::connect(&netz, &table::Netzspiel::spielerKommt, [&] { klaenge.spielerKommt(); });
+    QObject::connect(&netz, &table::Netzspiel::spielerGeht, [&] { klaenge.spielerGeht(); });
 
     hfo.setGeometry(
         table::fensterrahmen(speicher.hauptfenster(), schirm ? schirm->availableGeometry() : QRect(0, 0, 1024, 768)));
@@ -106,15 +125,39 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
         speicher.synchronisieren();
     });
 
+    // The foyer opens from the game menu, and at once when the program was restarted into it.
+    std::unique_ptr<foyer::Foyerprogramm> foyerprogramm;
+    auto foyerOeffnen = [&] {
+        if (!foyerprogramm) {
+            foyerprogramm = std::make_unique<foyer::Foyerprogramm>(speicher, [](const QString& name) {
+                const auto fehler = net::namePruefen(name.toStdString());
+                return fehler ? QString::fromStdString(*fehler) : QString();
+            });
+            foyerTischVerbinden(*foyerprogramm, netz, programm, speicher);
+        }
+        foyerprogramm->oeffnen();
+    };
+    QObject::connect(hfo.foyerAktion(), &QAction::triggered, &hfo, foyerOeffnen);
+    // A guest whose table is lost may go back to the foyer: the program starts anew into it.
+    netz.setzeFoyerRueckkehr([&] { return foyer::insFoyerNeustarten(speicher); });
+    const bool insFoyer = speicher.restartUebernehmen();
+
     const QString ladeDatei = QString::fromStdString(aufruf.ladeDatei);
     QTimer::singleShot(0, &steuerung, [&] {
         // For measuring the start: TRUMPONA_STARTZEIT prints when the table first stood.
         if (qEnvironmentVariableIsSet("TRUMPONA_STARTZEIT"))
             QTimer::singleShot(0, [&] { std::cerr << "Tisch sichtbar nach " << uhr.elapsed() << " ms\n"; });
         beendenNachUmgebung(hfo);
-        programm.starten(ladeDatei);
+        // --host and --join open the window in that role; the name falls back to the last one used.
+        const QString name = aufruf.name.empty() ? speicher.text(QStringLiteral("StartNick")) : QString::fromStdString(aufruf.name);
+        bool amNetz = false;
+        if (aufruf.modus == Modus::Host) amNetz = netz.hostenMitName(name, aufruf.port);
+        else if (aufruf.modus == Modus::Join) amNetz = netz.beitretenMitAdresse(QString::fromStdString(aufruf.joinAdresse), name);
+        if (!amNetz) programm.starten(ladeDatei);
+        if (insFoyer) foyerOeffnen();
     });
     const int ergebnis = QApplication::exec();
+    foyerprogramm.reset();
     klangspieler.soundSchliessen();
     return ergebnis;
 }

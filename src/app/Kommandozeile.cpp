@@ -74,9 +74,24 @@ Auswertung kommandozeileAuswerten(const std::vector<std::string>& argumente) {
         } else if (arg == "--join") {
             a.modus = Modus::Join;
             if (!wert(a.joinAdresse)) return fehler("--join braucht eine Adresse");
+        } else if (arg == "--foyer") {
+            a.modus = Modus::Foyer;
+            if (!wert(a.foyerAdresse)) return fehler("--foyer braucht die Adresse des Chat-Servers");
+        } else if (arg == "--open-table" || arg == "--take-seat") {
+            a.foyerrolle = arg == "--open-table" ? Foyerrolle::TischEroeffnen : Foyerrolle::PlatzNehmen;
         } else if (arg == "--port") {
-            if (!wert(text) || !zahlLesen(text, a.port) || a.port < 1 || a.port > 65535)
-                return fehler("--port braucht eine Portnummer von 1 bis 65535");
+            int port = 0;
+            if (!wert(text) || !zahlLesen(text, port) || port < 0 || port > 65535)
+                return fehler("--port braucht eine Portnummer von 0 bis 65535");
+            a.port = port;
+        } else if (arg == "--guests") {
+            if (!wert(text) || !zahlLesen(text, a.gaeste) || a.gaeste < 0 || a.gaeste > 3)
+                return fehler("--guests braucht eine Anzahl von 0 bis 3");
+        } else if (arg == "--tick") {
+            int ms = 0;
+            if (!wert(text) || !zahlLesen(text, ms) || ms < 0 || ms > 1000)
+                return fehler("--tick braucht Millisekunden von 0 bis 1000");
+            a.takt = ms;
         } else if (arg == "--name") {
             if (!wert(a.name)) return fehler("--name braucht einen Namen");
         } else if (arg == "--auto") {
@@ -84,6 +99,22 @@ Auswertung kommandozeileAuswerten(const std::vector<std::string>& argumente) {
         } else if (arg == "--games") {
             if (!wert(text) || !zahlLesen(text, a.spiele) || a.spiele < 1)
                 return fehler("--games braucht eine Anzahl");
+        } else if (arg == "--upload-results") {
+            a.modus = Modus::Ergebnisse;
+        } else if (arg == "--dir") {
+            if (!wert(a.ergebnisOrdner)) return fehler("--dir braucht einen Ordner");
+        } else if (arg == "--smtp") {
+            if (!wert(text) || text.empty()) return fehler("--smtp braucht HOST[:PORT]");
+            const auto doppelpunkt = text.rfind(':');
+            a.smtpHost = text.substr(0, doppelpunkt);
+            if (doppelpunkt != std::string::npos &&
+                (!zahlLesen(text.substr(doppelpunkt + 1), a.smtpPort) || a.smtpPort < 1 || a.smtpPort > 65535))
+                return fehler("--smtp braucht HOST[:PORT] mit einem Port von 1 bis 65535");
+            if (a.smtpHost.empty()) return fehler("--smtp braucht HOST[:PORT]");
+        } else if (arg == "--from") {
+            if (!wert(a.absender)) return fehler("--from braucht eine Adresse");
+        } else if (arg == "--to") {
+            if (!wert(a.empfaenger)) return fehler("--to braucht eine Adresse");
         } else {
             return fehler("Unbekannte Option: " + arg);
         }
@@ -102,9 +133,19 @@ std::string hilfetext() {
            "  trumpona --tournament N --players A,B [--seed S] [--rules DATEI]\n"
            "                                        Turnier zweier Spielerarten\n"
            "  trumpona --screenshot DATEI [--seed S]  den Tisch als PNG speichern\n"
-           "  trumpona --host [--port P]            einen Netzwerktisch eröffnen\n"
-           "  trumpona --join HOST[:PORT] --name NAME  an einem Netzwerktisch Platz nehmen\n"
-           "      mit --auto (der Computer spielt den eigenen Platz), --games N\n"
+           "  trumpona --host [--port P] [--name NAME]  am Tischfenster einen Netzwerktisch eröffnen\n"
+           "  trumpona --join HOST[:PORT] --name NAME   am Tischfenster an einem Netzwerktisch Platz nehmen\n"
+           "  trumpona --host [--port P] --auto --guests K --games N [--seed S] [--rules DATEI]\n"
+           "                 [--json DATEI|-] [--name NAME] [--tick MS]\n"
+           "                                        ohne Fenster einen Netzwerktisch eröffnen: K Gäste,\n"
+           "                                        N Spiele, der Computer spielt die übrigen Plätze\n"
+           "  trumpona --join HOST[:PORT] --name NAME --auto [--games N] [--tick MS]\n"
+           "                                        ohne Fenster an einem Netzwerktisch Platz nehmen\n"
+           "  trumpona --foyer HOST[:PORT] --name NAME --auto (--open-table | --take-seat) [--games N]\n"
+           "                                        ohne Fenster im Internet-Foyer einen Tisch eröffnen\n"
+           "                                        oder am ersten freien Platz nehmen\n"
+           "  trumpona --upload-results [--dir DIR] [--smtp HOST:PORT] [--from ADR] [--to ADR]\n"
+           "                                        wartende Turnierergebnisse an die Turnierleitung mailen\n"
            "  trumpona --help | --version\n";
 }
 

@@ -1,5 +1,6 @@
 #include "Oberflaeche.h"
 
+#include <QIcon>
 #include <QLocale>
 #include <chrono>
 #include <iostream>
@@ -50,6 +51,9 @@ std::unique_ptr<QApplication> anwendungStarten(int& argc, char** argv, bool ohne
     QApplication::setApplicationName(QStringLiteral("Trumpona"));
     QApplication::setOrganizationName(QStringLiteral("Trumpona"));
     auto anwendung = std::make_unique<QApplication>(argc, argv);
+    // The installed desktop entry names the window's program; the icon travels inside it.
+    QGuiApplication::setDesktopFileName(QStringLiteral("de.trumpona.Trumpona"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/trumpona.svg")));
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     table::qtUebersetzungLaden(*anwendung);
     return anwendung;

@@ -4,8 +4,11 @@
 
 #include "Autoplay.h"
 #include "PartieFortsetzen.h"
+#include "Ergebnisupload.h"
 #include "Fensterstart.h"
+#include "Foyerlauf.h"
 #include "Kommandozeile.h"
+#include "Netzlauf.h"
 #include "Screenshot.h"
 #include "Turnier.h"
 #include "Version.h"
@@ -33,6 +36,13 @@ int main(int argc, char** argv) {
         case app::Modus::Screenshot:
             return app::screenshotSchreiben(aufruf, argc, argv);
         case app::Modus::Turnier: return app::turnierStarten(aufruf);
+        // Without --auto the table window opens in that role.
+        case app::Modus::Host:
+            return aufruf.automatisch ? app::netzHostStarten(aufruf, argc, argv) : app::spielStarten(aufruf, argc, argv);
+        case app::Modus::Join:
+            return aufruf.automatisch ? app::netzGastStarten(aufruf, argc, argv) : app::spielStarten(aufruf, argc, argv);
+        case app::Modus::Foyer: return app::foyerStarten(aufruf, argc, argv);
+        case app::Modus::Ergebnisse: return app::ergebnisseSenden(aufruf, argc, argv);
         default:
             std::cerr << "trumpona: diese Betriebsart ist noch nicht verfügbar.\n";
             return 2;

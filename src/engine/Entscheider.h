@@ -42,6 +42,10 @@ public:
     virtual ~Spielbeobachter() = default;
     // Cards dealt and attributes for the normal game computed (before the redeal checks).
     virtual void kartenGegeben(const Spiel&) {}
+    // A seat asked for a redeal (grund: Neugebegrund); the next request is a new deal.
+    virtual void neugebenVerlangt(const Spiel&, Sitz, int /*grund*/) {}
+    // A seat's reservation was taken, before the game it may fix begins.
+    virtual void vorbehaltGemacht(const Spiel&, Sitz, const Vorbehalt&) {}
     // Reservations done, game type and parties fixed, strengths recomputed.
     virtual void spielBegonnen(const Spiel&) {}
     virtual void karteGespielt(const Spiel&, Sitz, int /*pos*/) {}

@@ -212,6 +212,7 @@ void Spielablauf::neugeben(Sitz s) {
                    gezeigteKarten(spiel_, s, grund)});
     geberZurueck(spiel_.partie);
     spiel_.ablauf.phase = Spielphase::Geben;
+    for (Spielbeobachter* b : beobachter_) b->neugebenVerlangt(spiel_, s, grund);
 }
 
 bool Spielablauf::mussGefragtWerden(Sitz s) const {
@@ -249,6 +250,7 @@ Bescheid Spielablauf::vorbehaltAnnehmen(const Vorbehalt& v) {
         if (spiel_.steuerung[s] != Steuerung::Computer) return Bescheid::abgelehnt(std::string(PflichtsoloFaellig));
         wahl = Vorbehalt{Vorbehalt::Solo, Normalspiel, KeineHochzeit};
     }
+    for (Spielbeobachter* b : beobachter_) b->vorbehaltGemacht(spiel_, s, wahl);
     if (wahl.art == Vorbehalt::Solo) {
         spielBeginnen({Spielwahl::Solo, s, wahl.spieltyp, KeineHochzeit});
         return {};

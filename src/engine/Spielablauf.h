@@ -118,6 +118,7 @@ public:
     Spielablauf(Spiel& spiel, Zufallsquelle& zufall);
 
     void beobachterHinzufuegen(Spielbeobachter* b) { beobachter_.push_back(b); }
+    void beobachterEntfernen(Spielbeobachter* b) { std::erase(beobachter_, b); }
     void meldungenAn(Meldungssenke* senke) { senke_ = senke; }
     // Stored rule options; they come into force at the start of the next game.
     void regelOptionenSetzen(const RegelOptionen& optionen) { optionen_ = optionen; }

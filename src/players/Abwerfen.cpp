@@ -58,6 +58,8 @@ bool gegnerKannStechen(const Lage& l, Sitz x) {
     return !l.freund(x) && !l.trumpfGefuehrt && l.frei(x, l.zuBedienen) && !l.ohneTrumpf(x);
 }
 bool solistInDritthand(const Lage& l) { return l.spiel.solo && l.solist() == l.dritthandSitz(); }
+// My party holds an untrumped plain trick and Hinterhand is not known as a partner.
+bool hhFeindStich(const Lage& l) { return farbStich(l) && wFreund(l) && !hhFreund(l); }
 
 const std::array<Regel, 12> zweithand{{
     {"ZH01", text::ZhGegenpartei, [](const Lage& l) { return !wFreund(l) && !wSolist(l); }, kleinste},
@@ -68,13 +70,17 @@ const std::array<Regel, 12> zweithand{{
      [](const Lage& l) { return wSolist(l) && l.trumpfGefuehrt && !l.hoechsteLiegt(); }, hoechste},
     {"ZH05", text::ZhSolistFarbeButtern,
      [](const Lage& l) { return wSolist(l) && !l.trumpfGefuehrt && !l.hoechsteLiegt(); }, hoechste},
+    // With the soloist in Dritthand, ZH09 and ZH10 speak.
     {"ZH06", text::ZhHinterhandBedient,
-     [](const Lage& l) { return wFreund(l) && l.hoechsteLiegt() && gegnerMuessenBedienen(l); }, hoechste},
+     [](const Lage& l) {
+         return wFreund(l) && l.hoechsteLiegt() && !solistInDritthand(l) && gegnerMuessenBedienen(l);
+     },
+     hoechste},
     {"ZH07", text::ZhHinterhandSticht,
      [](const Lage& l) { return wFreund(l) && l.hoechsteLiegt() && gegnerKannStechen(l, hh(l)); }, kleinste},
     {"ZH08", text::ZhHinterhandKannNicht,
      [](const Lage& l) {
-         return wFreund(l) && l.hoechsteLiegt() && !gegnerKannUebernehmen(l, hh(l)) &&
+         return wFreund(l) && l.hoechsteLiegt() && !solistInDritthand(l) && !gegnerKannUebernehmen(l, hh(l)) &&
                 !gegnerKannUebernehmen(l, l.dritthandSitz());
      },
      hoechste},
@@ -137,28 +143,25 @@ const std::array<Regel, 26> dritthand{{
      },
      kleinste},
     {"DH006", text::DH006, [](const Lage& l) { return l.gestochen && wFreund(l) && hhFreund(l); }, hoechste},
+    // With a partner in Hinterhand too (a solo), DH003 speaks.
     {"DH009", text::DH009,
      [](const Lage& l) {
-         return l.trumpfGefuehrt && wFreund(l) && (hhOhneTrumpf(l) || !hoehererTrumpfDraussen(l) || hhFreund(l));
+         return l.trumpfGefuehrt && wFreund(l) && !hhFreund(l) && (hhOhneTrumpf(l) || !hoehererTrumpfDraussen(l));
      },
      hoechste},
-    {"DH008", text::DH008, [](const Lage& l) { return l.trumpfGefuehrt && wFreund(l); }, kleinste},
+    {"DH008", text::DH008, [](const Lage& l) { return l.trumpfGefuehrt && wFreund(l) && !hhFreund(l); }, kleinste},
     {"DH010", text::DH010, [](const Lage& l) { return l.gestochen && wFreund(l) && !hhFrei(l); }, hoechste},
     {"DH013", text::DH013, [](const Lage& l) { return l.gestochen && wFreund(l) && l.kannUebernehmen(hh(l)); },
      kleinste},
     {"DH012", text::DH012, [](const Lage& l) { return l.gestochen && wFreund(l) && !hoehererTrumpfDraussen(l); },
      hoechste},
     {"DH011", text::DH011, [](const Lage& l) { return l.gestochen && wFreund(l) && hhOhneTrumpf(l); }, hoechste},
-    {"DH005", text::DH005, [](const Lage& l) { return farbStich(l) && wFreund(l) && !hhFrei(l) && !l.hoechsteLiegt(); },
-     kleinste},
-    {"DH001", text::DH001, [](const Lage& l) { return farbStich(l) && wFreund(l) && !hhFrei(l) && l.hoechsteLiegt(); },
-     hoechste},
-    {"DH002", text::DH002, [](const Lage& l) { return farbStich(l) && wFreund(l) && hhFrei(l) && hhOhneTrumpf(l); },
-     hoechste},
-    {"DH004", text::DH004, [](const Lage& l) { return farbStich(l) && wFreund(l) && hhFrei(l) && !hhOhneTrumpf(l); },
-     kleinste},
-    {"DH003", text::DH003, [](const Lage& l) { return wFreund(l) && hhFreund(l) && l.solist().has_value(); },
-     hoechste},
+    {"DH005", text::DH005, [](const Lage& l) { return hhFeindStich(l) && !hhFrei(l) && !l.hoechsteLiegt(); }, kleinste},
+    {"DH001", text::DH001, [](const Lage& l) { return hhFeindStich(l) && !hhFrei(l) && l.hoechsteLiegt(); }, hoechste},
+    {"DH002", text::DH002, [](const Lage& l) { return hhFeindStich(l) && hhFrei(l) && hhOhneTrumpf(l); }, hoechste},
+    {"DH004", text::DH004, [](const Lage& l) { return hhFeindStich(l) && hhFrei(l) && !hhOhneTrumpf(l); }, kleinste},
+    // Three of one party can only mean a solo.
+    {"DH003", text::DH003, [](const Lage& l) { return wFreund(l) && hhFreund(l); }, hoechste},
 }};
 
 // The Zähler kept back is the second HH002; HH001 leaves that case to it.

@@ -27,11 +27,12 @@ int bedienenWaehlen(const Lage& l) {
     int karte = solistFolgen(l);
     if (karte != 0) return karte;
     if (l.trumpfGefuehrt) {
-        karte = habeFarbe(l, l.trumpf) ? trumpfBedienen(l) : abwerfen(l);
+        karte = habeFarbe(l, l.trumpf) ? trumpfBedienen(Folge(l)) : abwerfen(l);
     } else if (habeFarbe(l, l.zuBedienen)) {
-        karte = farbeBedienen(l);
+        karte = farbeBedienen(Folge(l));
     } else if (!l.wissen.keinTrumpf[l.ich][l.ich]) {
-        karte = stechenOderAbwerfen(l);
+        Folge folge(l);
+        karte = stechenOderAbwerfen(folge);
         if (karte == 0) {
             karte = abwerfen(l);
             if (karte != 0)

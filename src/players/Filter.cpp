@@ -142,7 +142,8 @@ int fuchsKarlchenDolleFilter(const Lage& l, int karte) {
             l, [&](int p) { return l.istTrumpf(p) && !l.istFigur(p) && !l.istZaehler(p) && !l.istDolle(p); });
         if (klein != 0) {
             const bool figurGewinnt = l.schlaegt(karte);
-            if (l.schlaegt(klein)) {
+            // The small trump must do all the Figur does: win, and hold where the Figur holds.
+            if (l.schlaegt(klein) && (l.nagelt(klein) || !l.nagelt(karte))) {
                 melden(l, "Figur", text::SchoneFigur);
                 return klein;
             }

@@ -135,17 +135,21 @@ Ansagepruefung kontraPruefen(const Lage& l) {
 
     // 4. The score.
     w = ansagewert(l);
+    // Whether a hard rule said yes; a score that happens to be 101 is reported like any other.
+    bool hart = false;
 
     // 5.-7. Hard rules on the Augen so far and a safe solo.
     const int noetig = seite(l.eigenePartei()) == ParteiRe ? 121 : 120;
     if (augen.eigene > 0 && augen.eigene >= noetig) {
         w = AnsageSicher;
+        hart = true;
         l.melder.regel(verfahren::KontraPruefen, "Gewonnen", text::BereitsGewonnen);
     } else if (l.trumpf != SoloOhneTrumpf || s.solist == l.ich) {
         // The others end below what they need against us: 240 - noetig + 1.
         const int verlust = soloSchaetzen(s, l.ich, l.trumpf, spieltZuerstAus(s, l.ich)).augen;
         if (verlust + augen.andere <= 240 - noetig) {
             w = AnsageSicher;
+            hart = true;
             l.melder.regel(verfahren::KontraPruefen, "Solo",
                            l.trumpf == SoloOhneTrumpf ? text::FleischlosSicher : text::SoloSicherGewonnen);
         }
@@ -154,7 +158,7 @@ Ansagepruefung kontraPruefen(const Lage& l) {
     if (augen.andere >= 240 - noetig && w <= AnsageSchwelle) l.melder.hinweis(text::NichtGewinnbar);
     // 9.
     e.ansagen = w > AnsageSchwelle;
-    if (e.ansagen && w != AnsageSicher)
+    if (e.ansagen && !hart)
         l.melder.regel(verfahren::KontraPruefen, "Wert",
                        std::string(text::AnsagewertHoch) + std::to_string(w) + std::string(text::AnsagewertHochEnde));
     return e;

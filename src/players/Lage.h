@@ -139,6 +139,10 @@ public:
     // The Schweine holder is known to every seat (announced, seat 1's own, or one played).
     bool schweinOeffentlich() const;
 
+    // A rule whose bluff counts on the first trick's random number sets it here; the
+    // rule book writes it to the table's knowledge with the card.
+    mutable std::optional<int> neueZufallszahl;
+
 private:
     void werteBerechnen();
 };

@@ -9,14 +9,7 @@ bool istErlaubt(const Lage& lage, int pos) {
 }
 
 int regelnAnwenden(std::span<const Regel> regeln, const Lage& lage, std::string_view verfahren) {
-    for (const Regel& r : regeln) {
-        if (!r.bedingung(lage)) continue;
-        const int karte = r.wahl(lage);
-        if (!istErlaubt(lage, karte)) continue;
-        lage.melder.regel(verfahren, r.code, r.text);
-        return karte;
-    }
-    return 0;
+    return regelnAnwenden<Lage>(regeln, lage, verfahren);
 }
 
 }  // namespace players

@@ -8,18 +8,36 @@
 
 namespace players {
 
-struct Regel {
+// A rule reads the game through a view: the seat's `Lage`, or a view built on it
+// (`lageVon` leads back to the Lage).
+template <class Sicht>
+struct RegelFuer {
     std::string_view code;
     std::string_view text;             // reasoning text as shown; empty when the choice reports itself
-    bool (*bedingung)(const Lage&);
-    int (*wahl)(const Lage&);          // a card of the own hand, 0 when none fits after all
+    bool (*bedingung)(const Sicht&);
+    int (*wahl)(const Sicht&);         // a card of the own hand, 0 when none fits after all
 };
+using Regel = RegelFuer<Lage>;
+
+inline const Lage& lageVon(const Lage& lage) { return lage; }
+
+bool istErlaubt(const Lage& lage, int pos);
 
 // The card of the first rule whose condition holds and whose choice is a legal card;
 // that rule is reported. 0 when no rule fired.
+template <class Sicht>
+int regelnAnwenden(std::span<const RegelFuer<Sicht>> regeln, const Sicht& sicht, std::string_view verfahren) {
+    const Lage& lage = lageVon(sicht);
+    for (const auto& r : regeln) {
+        if (!r.bedingung(sicht)) continue;
+        const int karte = r.wahl(sicht);
+        if (!istErlaubt(lage, karte)) continue;
+        lage.melder.regel(verfahren, r.code, r.text);
+        return karte;
+    }
+    return 0;
+}
 int regelnAnwenden(std::span<const Regel> regeln, const Lage& lage, std::string_view verfahren);
-
-bool istErlaubt(const Lage& lage, int pos);
 
 // Procedure names as the reasoning and the statistics name them.
 namespace verfahren {

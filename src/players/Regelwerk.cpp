@@ -31,11 +31,12 @@ int Regelwerk::karteWaehlen(const Spiel& spiel, Sitz sitz) {
     melder.entscheidung();
     const Lage lage(spiel, wissen_, sitz, melder, zufall_);
     if (lage.erlaubt.empty()) return 0;
-    int karte = lage.anzahl == 0 ? ausspielWaehlen(lage) : bedienenWaehlen(lage);
+    int karte = lage.anzahl == 0 ? ausspielWaehlen(lage) : (art_.bedienen ? art_.bedienen : bedienenWaehlen)(lage);
     if (!istErlaubt(lage, karte)) {
         melder.rueckfall("Regelwerk");
         karte = rueckfallKarte(lage);
     }
+    if (lage.neueZufallszahl) wissen_.zufallszahl = *lage.neueZufallszahl;
     return karte;
 }
 

@@ -7,11 +7,15 @@
 
 namespace players {
 
+class Lage;
+
 // What the rule book decides beyond its cards; both off is the card player alone
 // (for measuring what solos, the Hochzeit and announcements are worth).
 struct Regelwerksart {
     bool vorbehalte = true;  // solos, silent solo, Hochzeit
     bool ansagen = true;     // Re, Kontra and limits
+    // The follow dispatcher; none is the rule book's own (another one is measured against it).
+    int (*bedienen)(const Lage&) = nullptr;
 };
 
 class Regelwerk final : public engine::Entscheider {

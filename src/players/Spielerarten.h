@@ -16,7 +16,8 @@ struct Spielerumgebung {
     Begruendungssenke* senke = nullptr;
 };
 
-// "regelwerk", "regelwerk-ohne-ansagen", "regelwerk-nur-karten", "zufall", "kleinste";
+// "regelwerk", "regelwerk-ohne-ansagen", "regelwerk-nur-karten", "regelwerk1" (the rule book
+// before its whole following rule book, frozen for measuring), "zufall", "kleinste";
 // nullptr for an unknown name.
 std::unique_ptr<engine::Entscheider> spielerErzeugen(std::string_view art, Spielerumgebung& umgebung);
 const std::vector<std::string_view>& spielerarten();

@@ -1,6 +1,8 @@
 #pragma once
 // Every text the computer players show, word for word (misspellings and double
-// blanks included). Rule sentences carry their "Mld." prefix and code as shown.
+// blanks included). Rule sentences carry their "Mld." prefix and code as shown. The
+// sentences the following rule book words itself stand beside this file, one header
+// per procedure (TexteFarbe.h, TexteTrumpf.h, TexteStechen.h).
 #include <string>
 #include <string_view>
 

@@ -3,6 +3,7 @@
 // (a deck position) or 0 when none of its rules fired.
 #include <span>
 
+#include "Folgelage.h"
 #include "Regeltabelle.h"
 
 namespace players {
@@ -12,9 +13,10 @@ int ausspielWaehlen(const Lage& lage);
 // Follow: the dispatcher; never 0.
 int bedienenWaehlen(const Lage& lage);
 
-int farbeBedienen(const Lage& lage);
-int trumpfBedienen(const Lage& lage);
-int stechenOderAbwerfen(const Lage& lage);
+int farbeBedienen(const Folge& folge);
+int trumpfBedienen(const Folge& folge);
+// Runs the preparation on `folge` first.
+int stechenOderAbwerfen(Folge& folge);
 int abwerfen(const Lage& lage);
 
 // The soloist's own rules, tried first (0 when none fired).
@@ -35,9 +37,9 @@ int herzFilter(const Lage& lage, int karte);
 
 // The rule tables by position (1 ZH, 2 DH, 3 HH), for tests and documentation.
 std::span<const Regel> abwerfenRegeln(int anzahl);
-std::span<const Regel> farbeBedienenRegeln(int anzahl);
-std::span<const Regel> trumpfBedienenRegeln(int anzahl);
-std::span<const Regel> stechenRegeln(int anzahl);
+std::span<const RegelFuer<Folge>> farbeBedienenRegeln(int anzahl);
+std::span<const RegelFuer<Folge>> trumpfBedienenRegeln(int anzahl);
+std::span<const RegelFuer<Folge>> stechenRegeln(int anzahl);
 std::span<const Regel> ausspielRegeln();
 
 }  // namespace players

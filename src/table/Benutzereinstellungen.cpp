@@ -1,11 +1,14 @@
 #include "Benutzereinstellungen.h"
 
+#include <algorithm>
+
 #include "settings/Benutzerspeicher.h"
 
 namespace table {
 
 namespace {
 const QString ManuelleVerteilung = QStringLiteral("ManuelleVerteilung");
+const QString Tempo = QStringLiteral("Tempo");
 }
 
 Benutzereinstellungen benutzereinstellungenLesen(const settings::Benutzerspeicher& s) {
@@ -20,6 +23,8 @@ Benutzereinstellungen benutzereinstellungenLesen(const settings::Benutzerspeiche
     b.ircPort = s.zahl(QStringLiteral("IRCPort"));
     b.ircRaum = s.text(QStringLiteral("IRCRaum"));
     b.manuelleVerteilung = s.vorhanden(ManuelleVerteilung) && s.wahr(ManuelleVerteilung);
+    if (s.vorhanden(Tempo)) b.tempo = std::clamp(s.zahl(Tempo), 1, 3);
+    b.mail = services::mailkontoLesen(s);
     return b;
 }
 
@@ -31,11 +36,13 @@ void benutzereinstellungenSchreiben(settings::Benutzerspeicher& s, const Benutze
         s.setzeText(QStringLiteral("ProxyServer"), b.proxyServer);
         if (!b.netzadapter.isEmpty()) s.setzeText(QStringLiteral("Netzadapter"), b.netzadapter);
         s.setzeWahr(ManuelleVerteilung, b.manuelleVerteilung);
+        s.setzeZahl(Tempo, b.tempo);
     }
     s.setzeZahl(QStringLiteral("IRCPort"), b.ircPort);
     s.setzeText(QStringLiteral("IRCServer"), b.ircServer);
     s.setzeText(QStringLiteral("IRCRaum"), b.ircRaum);
     s.setzeWahr(QStringLiteral("IPErfragen"), b.ipErfragen);
+    services::mailkontoSchreiben(s, b.mail);
     s.synchronisieren();
 }
 

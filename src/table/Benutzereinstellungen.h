@@ -3,6 +3,8 @@
 // options file: the network and foyer keys, and whether a deal may be made by hand.
 #include <QString>
 
+#include "services/Mailkonto.h"
+
 namespace settings {
 class Benutzerspeicher;
 }
@@ -20,12 +22,14 @@ struct Benutzereinstellungen {
     int ircPort = 6668;
     QString ircRaum;
     bool manuelleVerteilung = false;  // ask "Manuelle Kartenverteilung?" before each deal
+    int tempo = 2;                    // pace while "Animation" is on: 1 fast, 2 normal, 3 slow
+    services::Mailkonto mail;         // where tournament results are mailed
     bool operator==(const Benutzereinstellungen&) const = default;
 };
 
 Benutzereinstellungen benutzereinstellungenLesen(const settings::Benutzerspeicher& speicher);
 
-// The foyer keys and "IPErfragen" are stored on every OK of the dialog; the rest
+// The foyer and mail keys and "IPErfragen" are stored on every OK of the dialog; the rest
 // only when the person asked for the settings to be saved.
 void benutzereinstellungenSchreiben(settings::Benutzerspeicher& speicher, const Benutzereinstellungen& b,
                                     bool dauerhaft);

@@ -7,10 +7,26 @@
 
 namespace table {
 
+namespace {
+
+// "Partie (*.DKP)" becomes "Partie (*.DKP *.dkp)": the classic dialogs ignore the
+// case of a pattern, native ones on Linux do not.
+QString beideSchreibweisen(const QString& text) {
+    const qsizetype auf = text.lastIndexOf(QLatin1Char('('));
+    if (auf < 0 || !text.endsWith(QLatin1Char(')'))) return text;
+    QStringList muster = text.mid(auf + 1, text.size() - auf - 2).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (const QString& m : QStringList(muster))
+        for (const QString& anders : {m.toLower(), m.toUpper()})
+            if (!muster.contains(anders)) muster << anders;
+    return text.left(auf + 1) + muster.join(QLatin1Char(' ')) + QLatin1Char(')');
+}
+
+}  // namespace
+
 QString qtFilter(std::string_view filter) {
     const QStringList teile = t(filter).split(QLatin1Char('|'));
     QStringList texte;
-    for (qsizetype i = 0; i < teile.size(); i += 2) texte << teile[i];
+    for (qsizetype i = 0; i < teile.size(); i += 2) texte << beideSchreibweisen(teile[i]);
     return texte.join(QStringLiteral(";;"));
 }
 

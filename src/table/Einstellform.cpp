@@ -23,8 +23,13 @@
 #include "Einstellelemente.h"
 #include "Einstelltexte.h"
 #include "Kartenmaler.h"
+#include "Mailgruppe.h"
 #include "Qtext.h"
+#include "Lerntexte.h"
 #include "Spielercharakter.h"
+#include "Tempostufen.h"
+#include "Regelvorlagen.h"
+#include "Vorlagenwahl.h"
 #include "engine/Regeln.h"
 #include "settings/Benutzerspeicher.h"
 #include "settings/Einstellungstexte.h"
@@ -125,6 +130,10 @@ Einstellform::Einstellform(const settings::Einstellungen& e, const Benutzereinst
 
     setzeEinstellungen(e);
     setzeBenutzer(b);
+    // The preset list follows every rule control.
+    for (const Bindung& bindung : bindungen_)
+        if (istRegel(bindung.schluessel.toStdString())) vorlagen_->beobachten(bindung.feld);
+    vorlagen_->erkennen();
 }
 
 Einstellform::~Einstellform() = default;
@@ -177,6 +186,15 @@ QWidget* Einstellform::regelnSeite() {
     auto* rechts = new QVBoxLayout;
     spalten->addLayout(links, 1);
     spalten->addLayout(rechts, 1);
+    vorlagen_ = new Vorlagenwahl(
+        umgebung_.speicher, [this] { return einstellungen().regeln; },
+        [this](const engine::RegelOptionen& r) {
+            settings::Einstellungen e = einstellungen();
+            e.regeln = r;
+            setzeEinstellungen(e);
+        },
+        seite);
+    rechts->addWidget(vorlagen_);
 
     // End of the Partie: by points or after a number of games.
     auto* ende = gruppe(Partieende, seite);
@@ -382,7 +400,18 @@ QWidget* Einstellform::anzeigeSeite() {
 
     auto* fenster = gruppe(Fenster, seite);
     auto* fspalte = new QVBoxLayout(fenster);
-    fspalte->addWidget(schalter("Animation", Animation, fenster));
+    // "Animation" and the pace in one list: off, fast, normal, slow.
+    auto* tempoZeile = new QHBoxLayout;
+    tempoZeile->addWidget(new QLabel(t(lerntext::Tempo), fenster));
+    tempo_ = new QComboBox(fenster);
+    tempo_->setObjectName(QStringLiteral("Tempo"));
+    for (const char* stufe : {lerntext::TempoAus, lerntext::TempoSchnell, lerntext::TempoNormal, lerntext::TempoLangsam})
+        tempo_->addItem(t(stufe));
+    tempoZeile->addWidget(tempo_, 1);
+    connect(tempo_, &QComboBox::currentIndexChanged, this, [this](int i) {
+        if (i != TempoAus) tempoMitBewegung_ = i;
+    });
+    fspalte->addLayout(tempoZeile);
     fspalte->addWidget(schalter("Karten", Karten_, fenster));
     fspalte->addWidget(schalter("Willkommen", Willkommen, fenster));
     fspalte->addWidget(schalter("Vollbild", Vollbild, fenster));
@@ -458,7 +487,12 @@ QWidget* Einstellform::netzwerkSeite() {
     ircRaum_ = new QLineEdit(foyer);
     ircRaum_->setObjectName(QStringLiteral("IRCRaum"));
     fform->addRow(t(IrcRaum), ircRaum_);
-    spalte->addWidget(foyer);
+    // The foyer and the result mail side by side, so the tab fits a small screen.
+    auto* internet = new QHBoxLayout;
+    internet->addWidget(foyer, 1);
+    mail_ = new Mailgruppe(seite);
+    internet->addWidget(mail_, 1);
+    spalte->addLayout(internet);
     // Numbers need no full line.
     for (QSpinBox* zahl : {serverport_, netztempo_, ircPort_}) zahl->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     spalte->addStretch();
@@ -471,6 +505,7 @@ settings::Einstellungen Einstellform::einstellungen() const {
         e.namen[i] = namen_[i]->text().toStdString();
         e.charakter[i] = charaktere_[i]->currentData().toInt();
     }
+    e.animation = tempo_->currentIndex() == TempoAus ? 0 : -1;
     for (const Bindung& b : bindungen_) {
         int* ziel = settings::feld(e, b.schluessel.toStdString());
         if (!ziel) continue;
@@ -501,6 +536,7 @@ void Einstellform::setzeEinstellungen(const settings::Einstellungen& e) {
         else if (auto* w = qobject_cast<Wahlgruppe*>(b.feld)) w->setzeWert(wert);
         else if (auto* f = qobject_cast<Farbknopf*>(b.feld)) f->setzeWert(wert);
     }
+    tempo_->setCurrentIndex(e.animation == 0 ? TempoAus : tempoMitBewegung_);
     // The Joker as given, then the Dollen decide whether it may stay.
     joker_->setEnabled(true);
     dollenGeaendert(dollen_->wert());
@@ -521,6 +557,8 @@ Benutzereinstellungen Einstellform::benutzer() const {
     b.ircPort = ircPort_->value();
     b.ircRaum = ircRaum_->text();
     b.manuelleVerteilung = manuelleVerteilung_->isChecked();
+    b.tempo = tempo_->currentIndex() == TempoAus ? tempoMitBewegung_ : tempo_->currentIndex();
+    b.mail = mail_->konto();
     return b;
 }
 
@@ -541,6 +579,9 @@ void Einstellform::setzeBenutzer(const Benutzereinstellungen& b) {
     ircPort_->setValue(b.ircPort);
     ircRaum_->setText(b.ircRaum);
     manuelleVerteilung_->setChecked(b.manuelleVerteilung);
+    tempoMitBewegung_ = std::clamp(b.tempo, static_cast<int>(TempoSchnell), static_cast<int>(TempoLangsam));
+    if (tempo_->currentIndex() != TempoAus) tempo_->setCurrentIndex(tempoMitBewegung_);
+    mail_->setzeKonto(b.mail);
 }
 
 bool Einstellform::speichern() const { return speichernJn_->isChecked(); }

@@ -27,6 +27,8 @@ namespace table {
 
 class Dateiwahl;
 class Kartenvorschau;
+class Vorlagenwahl;
+class Mailgruppe;
 class Wahlgruppe;
 
 struct Einstellumgebung {
@@ -101,6 +103,9 @@ private:
     QLabel* jokerHinweis_ = nullptr;
     QComboBox* vorhand_ = nullptr;
     Kartenvorschau* vorschau_ = nullptr;
+    Vorlagenwahl* vorlagen_ = nullptr;
+    QComboBox* tempo_ = nullptr;   // off, or the pace of the "Animation"
+    int tempoMitBewegung_ = 2;     // the pace kept while the movement is off
     QCheckBox* speichernJn_ = nullptr;
     // Network and foyer.
     QComboBox* netzadapter_ = nullptr;
@@ -113,6 +118,7 @@ private:
     QSpinBox* ircPort_ = nullptr;
     QSpinBox* netztempo_ = nullptr;
     QComboBox* verbindungsart_ = nullptr;
+    Mailgruppe* mail_ = nullptr;  // where tournament results go
 };
 
 // Selects the entry holding `wert`; a value the list lacks gets an entry of its own,

@@ -86,7 +86,6 @@ inline constexpr char Hintergrund[] = "Tischfarbe";
 inline constexpr char Vordergrund[] = "Schriftfarbe am Tisch";
 inline constexpr char FarbeWaehlen[] = "Farbe wählen";
 inline constexpr char Tisch[] = "Tisch";
-inline constexpr char Animation[] = "Kartenbewegungen zeigen (Animation)";
 inline constexpr char Einsammeln[] = "Stiche einsammeln";
 inline constexpr char EinsammelnSofort[] = "sofort";
 inline constexpr char EinsammelnKlick[] = "nach Mausklick auf den Stich";

@@ -17,8 +17,11 @@ int farbfolge(int farbe) {
 }  // namespace
 
 std::vector<int> sortierteHand(const engine::Spiel& spiel, engine::Sitz sitz) {
+    return sortiert(spiel, engine::handkarten(spiel, sitz));
+}
+
+std::vector<int> sortiert(const engine::Spiel& spiel, std::vector<int> hand) {
     const engine::Deck& deck = spiel.deck;
-    std::vector<int> hand = engine::handkarten(spiel, sitz);
 
     // Sort key: trumps first, then the suit, then the strength downwards; the code
     // keeps equal strengths apart (Herz-As and Herz-Zehn differ only by it) and the

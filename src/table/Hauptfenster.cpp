@@ -9,9 +9,11 @@
 #include <QStyle>
 
 #include "Kartenbilder.h"
+#include "Lerntexte.h"
 #include "Qtext.h"
 #include "Tischansicht.h"
 #include "Tischtexte.h"
+#include "Turniertexte.h"
 #include "engine/Spielablauf.h"
 #include "savegame/Partietexte.h"
 
@@ -45,15 +47,21 @@ void Hauptfenster::menuesAnlegen() {
     spielMenue_ = spiel;
     neuePartie_ = aktion(spiel, t(texte::NeuePartie), "m_neue_partie");
     neuePartie_->setShortcut(QKeySequence(Qt::Key_F2));
+    turnierpartie_ = aktion(spiel, t(turniertext::TurnierpartieMenue), "m_turnierpartie");
+    ergebnisse_ = aktion(spiel, t(turniertext::ErgebnisseMenue), "m_turnierergebnisse");
     spiel->addSeparator();
     laden_ = aktion(spiel, t(savegame::texte::MenueLaden), "m_partie_laden");
     laden_->setShortcut(QKeySequence::Open);
     speichern_ = aktion(spiel, t(savegame::texte::MenueSpeichern), "m_partie_speichern");
     speichern_->setShortcut(QKeySequence::Save);
     spiel->addSeparator();
+    spielverlauf_ = aktion(spiel, t(lerntext::SpielverlaufMenue), "m_spielverlauf");
+    statistik_ = aktion(spiel, t(lerntext::StatistikMenue), "m_statistik");
+    spiel->addSeparator();
     einstellungen_ = aktion(spiel, t(texte::EinstellungenMenue), "m_einstellungen");
-    netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "m_netzprotokoll");
-    netzprotokoll_->setEnabled(false);  // network play is later work
+    foyer_ = aktion(spiel, t(texte::FoyerMenue), "m_foyer");
+    netzprotokoll_ = aktion(spiel, t(texte::NetzprotokollZeigen), "mnuSendebuffer");
+    netzprotokoll_->setEnabled(false);  // at a network table only
     spiel->addSeparator();
     ende_ = aktion(spiel, t(texte::Ende), "m_ende");
     ende_->setShortcut(QKeySequence(Qt::ALT | Qt::Key_F4));
@@ -74,9 +82,12 @@ void Hauptfenster::menuesAnlegen() {
     letzterStich_ = aktion(ansicht, t(texte::LetzterStich), "m_letzter_stich");
     alleStiche_ = aktion(ansicht, t(texte::AlleStiche), "m_alle_stiche");
     spielzettel_ = aktion(ansicht, t(texte::Spielzettel), "m_spielzettel");
+    gespielteKarten_ = aktion(ansicht, t(lerntext::GespielteKartenMenue), "m_gespielte_karten");
     ansicht->addSeparator();
     msgboxen_ = aktion(ansicht, t(texte::MsgboxenZeigen), "m_msgboxen_zeigen");
     msgboxen_->setCheckable(true);
+    alleKarten_ = aktion(ansicht, t(lerntext::AlleKartenZeigen), "m_alle_karten");
+    alleKarten_->setCheckable(true);
     ansicht->addSeparator();
     vollbild_ = aktion(ansicht, t(texte::VollbildMenue), "m_vollbild");
     vollbild_->setCheckable(true);
@@ -137,21 +148,39 @@ void Hauptfenster::automatikEintragZeigen(bool an) { automatik_->setVisible(an);
 int Hauptfenster::msgBoxModus() const { return msgboxen_->isChecked() ? 1 : 3; }
 
 void Hauptfenster::m_neue_partie_click() {
-    if (partieUnterwegs_ &&
-        QMessageBox::question(this, windowTitle(), t(engine::ablauftext::PartieAbbrechen), QMessageBox::Yes | QMessageBox::No) !=
-            QMessageBox::Yes)
-        return;
+    if (partieUnterwegs_) {
+        emit frageOffen(true);
+        QMessageBox frage(QMessageBox::Question, windowTitle(), t(engine::ablauftext::PartieAbbrechen),
+                          QMessageBox::Yes | QMessageBox::No, this);
+        // Only a deliberate Yes throws the Partie away: Enter (a key held from the last
+        // box, or pressed once too often) and Escape keep it.
+        frage.setDefaultButton(QMessageBox::No);
+        frage.setEscapeButton(QMessageBox::No);
+        const bool abbrechen = frage.exec() == QMessageBox::Yes;
+        emit frageOffen(false);
+        if (!abbrechen) return;
+    }
+    emit neuePartieBestaetigt();
     emit neuePartieGewuenscht();
 }
 
-void Hauptfenster::SubPrgBeenden() {
-    beendenBestaetigt_ = true;
-    emit beendenGewuenscht();
-    close();
+void Hauptfenster::beendenPruefen() {
+    if (!vorDemBeenden_) return;
+    const auto pruefung = std::move(vorDemBeenden_);
+    vorDemBeenden_ = nullptr;
+    pruefung();
 }
 
+void Hauptfenster::SubPrgBeenden() { close(); }
+
+// "&Ende" and the window's close button both end here.
 void Hauptfenster::closeEvent(QCloseEvent* event) {
-    if (!beendenBestaetigt_) emit beendenGewuenscht();
+    if (beendenPruefung_ && !beendenPruefung_()) {
+        event->ignore();
+        return;
+    }
+    beendenPruefen();
+    emit beendenGewuenscht();
     event->accept();
 }
 

@@ -3,6 +3,7 @@
 // logic; the controller feeds it and listens to its signals.
 #include <QMainWindow>
 #include <array>
+#include <functional>
 #include <memory>
 
 #include "engine/Ansagen.h"
@@ -39,10 +40,19 @@ public:
     QAction* ladenAktion() const { return laden_; }
     QAction* speichernAktion() const { return speichern_; }
     QAction* einstellungenAktion() const { return einstellungen_; }
+    // "Internet-Foyer...": whoever runs the foyer connects to it.
+    QAction* foyerAktion() const { return foyer_; }
     QAction* vollbildAktion() const { return vollbild_; }
     QAction* regelnAktion() const { return regeln_; }
+    QAction* turnierpartieAktion() const { return turnierpartie_; }
+    QAction* ergebnisseAktion() const { return ergebnisse_; }
     QMenu* spielMenue() const { return spielMenue_; }
-    // Network play is later work.
+    // The learning aids: review, statistics, open hands, cards played.
+    QAction* spielverlaufAktion() const { return spielverlauf_; }
+    QAction* statistikAktion() const { return statistik_; }
+    QAction* alleKartenAktion() const { return alleKarten_; }
+    QAction* gespielteKartenAktion() const { return gespielteKarten_; }
+    // `mnuSendebuffer`: the protocol log of a network table.
     QAction* netzprotokollAktion() const { return netzprotokoll_; }
 
     void statusSetzen(const QString& text);
@@ -57,8 +67,16 @@ public:
     int msgBoxModus() const;
     // Whether "&Neue Partie" has to ask before it throws the running Partie away.
     void setzePartieUnterwegs(bool unterwegs) { partieUnterwegs_ = unterwegs; }
+    // Asked before the program ends ("&Ende" or closing the window); false keeps it open.
+    void setzeBeendenPruefung(std::function<bool()> pruefung) { beendenPruefung_ = std::move(pruefung); }
+    // Runs once when the program is about to end, before anything is written back
+    // (the question about unsent tournament results).
+    void setzeVorDemBeenden(std::function<void()> pruefung) { vorDemBeenden_ = std::move(pruefung); }
 
 signals:
+    // "&Neue Partie" was confirmed; sent just before neuePartieGewuenscht, so a
+    // tournament Partie can give its rules back before the first deal.
+    void neuePartieBestaetigt();
     void neuePartieGewuenscht();
     void automatikGewuenscht();
     void reKontraGewuenscht();
@@ -67,6 +85,8 @@ signals:
     void alleSticheGewuenscht();
     void spielzettelGewuenscht();
     void beendenGewuenscht();
+    // A question of the window is open (true) or closed again: the game waits meanwhile.
+    void frageOffen(bool offen);
 
 public slots:
     // "&Neue Partie": asks before a running Partie is abandoned.
@@ -79,6 +99,7 @@ protected:
 
 private:
     void menuesAnlegen();
+    void beendenPruefen();
 
     std::unique_ptr<Kartenbilder> bilder_;
     Tischansicht* tisch_ = nullptr;
@@ -96,12 +117,20 @@ private:
     QAction* laden_ = nullptr;
     QAction* speichern_ = nullptr;
     QAction* einstellungen_ = nullptr;
+    QAction* foyer_ = nullptr;
     QAction* netzprotokoll_ = nullptr;
     QAction* vollbild_ = nullptr;
     QAction* regeln_ = nullptr;
+    QAction* turnierpartie_ = nullptr;
+    QAction* ergebnisse_ = nullptr;
+    std::function<void()> vorDemBeenden_;
     QMenu* spielMenue_ = nullptr;
+    QAction* spielverlauf_ = nullptr;
+    QAction* statistik_ = nullptr;
+    QAction* alleKarten_ = nullptr;
+    QAction* gespielteKarten_ = nullptr;
     bool partieUnterwegs_ = false;
-    bool beendenBestaetigt_ = false;
+    std::function<bool()> beendenPruefung_;
 };
 
 }  // namespace table

@@ -9,6 +9,9 @@
 #include <QTextStream>
 #include <array>
 #include <cmath>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include "Kartenmaler.h"
 #include "engine/Karte.h"
@@ -36,8 +39,13 @@ QString svgDateiIn(const QDir& ordner) {
     return svgs.isEmpty() ? QString() : ordner.filePath(svgs.first());
 }
 
-// Removes a cache that grew over many window sizes; a few sizes are in use at a time.
-constexpr int CacheGrenze = 600;
+// The pictures of a dropped size lie scattered in the heap; without this the
+// allocator keeps their pages and the program only ever grows.
+void speicherZurueckgeben() {
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
 
 }  // namespace
 
@@ -76,6 +84,7 @@ void Kartenbilder::setzeKartenbild(int kartenbild) {
     renderer_.reset();
     deckName_.clear();
     cache_.clear();
+    speicherZurueckgeben();
 }
 
 bool Kartenbilder::franzoesisch() const { return engine::franzoesischeBilder(kartenbild_); }
@@ -124,9 +133,21 @@ QPixmap Kartenbilder::gecacht(const QString& schluessel, QSizeF groesse, qreal d
                               const std::function<void(QPainter&, const QRectF&)>& malen) {
     const QSize pixel(std::max(1, static_cast<int>(std::lround(groesse.width() * dpr))),
                       std::max(1, static_cast<int>(std::lround(groesse.height() * dpr))));
-    const QString voll = QStringLiteral("%1/%2x%3").arg(schluessel).arg(pixel.width()).arg(pixel.height());
-    if (auto it = cache_.constFind(voll); it != cache_.constEnd()) return *it;
-    if (cache_.size() > CacheGrenze) cache_.clear();
+    const quint64 pixelSchluessel = (static_cast<quint64>(pixel.width()) << 32) | static_cast<quint32>(pixel.height());
+    auto gruppe = cache_.find(pixelSchluessel);
+    if (gruppe == cache_.end()) {
+        // A new size pushes out the one drawn longest ago.
+        if (cache_.size() >= MaxGroessen) {
+            auto aeltester = cache_.begin();
+            for (auto it = cache_.begin(); it != cache_.end(); ++it)
+                if (it->zuletzt < aeltester->zuletzt) aeltester = it;
+            cache_.erase(aeltester);
+            speicherZurueckgeben();
+        }
+        gruppe = cache_.insert(pixelSchluessel, {});
+    }
+    gruppe->zuletzt = ++zugriffe_;
+    if (auto it = gruppe->bilder.constFind(schluessel); it != gruppe->bilder.constEnd()) return *it;
 
     QImage bild(pixel, QImage::Format_ARGB32_Premultiplied);
     bild.fill(Qt::transparent);
@@ -138,8 +159,14 @@ QPixmap Kartenbilder::gecacht(const QString& schluessel, QSizeF groesse, qreal d
     }
     QPixmap karte = QPixmap::fromImage(std::move(bild));
     karte.setDevicePixelRatio(dpr);
-    cache_.insert(voll, karte);
+    gruppe->bilder.insert(schluessel, karte);
     return karte;
+}
+
+int Kartenbilder::gecachteBilder() const {
+    int n = 0;
+    for (const Groesse& g : cache_) n += static_cast<int>(g.bilder.size());
+    return n;
 }
 
 QPixmap Kartenbilder::vorderseite(int code, QSizeF groesse, qreal dpr) {

@@ -1,7 +1,8 @@
 #pragma once
 // Card pictures: the faces from an installed SVG deck, found at run time, or from
 // our own painter when none is there; the backs always from our painter. Pictures
-// are cached per card, size and device pixel ratio.
+// are cached per card, size and device pixel ratio; only the few sizes drawn last
+// are kept, so resizing the window again and again does not pile up pictures.
 #include <QHash>
 #include <QPixmap>
 #include <QSizeF>
@@ -41,6 +42,11 @@ public:
     QPixmap vorderseite(int code, QSizeF groesse, qreal dpr);
     QPixmap rueckseite(int nummer, QSizeF groesse, qreal dpr);
 
+    // How many pixel sizes the cache holds at most, and how many it holds now.
+    static constexpr int MaxGroessen = 6;
+    int gecachteGroessen() const { return static_cast<int>(cache_.size()); }
+    int gecachteBilder() const;
+
 private:
     void deckLaden();
     QPixmap gecacht(const QString& schluessel, QSizeF groesse, qreal dpr, const std::function<void(QPainter&, const QRectF&)>& malen);
@@ -52,7 +58,13 @@ private:
     std::unique_ptr<QSvgRenderer> renderer_;
     QString jokerId_;
     qreal seitenverhaeltnis_;
-    QHash<QString, QPixmap> cache_;
+    // Per pixel size: when it was drawn last, and its pictures by card.
+    struct Groesse {
+        qint64 zuletzt = 0;
+        QHash<QString, QPixmap> bilder;
+    };
+    QHash<quint64, Groesse> cache_;
+    qint64 zugriffe_ = 0;
 };
 
 }  // namespace table

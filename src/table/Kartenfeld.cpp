@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "Kartenbilder.h"
 
@@ -45,8 +46,14 @@ QSize Kartenfeld::kartengroesse() const {
     return {static_cast<int>(hoehe_ * bilder_.seitenverhaeltnis()), hoehe_};
 }
 
-// Each card shows a little more than half its width, enough for its corner.
-int Kartenfeld::versatz() const { return kartengroesse().width() * 55 / 100; }
+// Each card shows at least a little more than half its width, enough for its
+// corner; a wider field spreads the row out, up to cards side by side.
+int Kartenfeld::versatz() const {
+    const int breite = kartengroesse().width();
+    const int mindestens = breite * 55 / 100;
+    if (proZeile_ < 2) return mindestens;
+    return std::clamp((width() - 2 * Rand - breite) / (proZeile_ - 1), mindestens, breite + Rand);
+}
 
 QRect Kartenfeld::kartenrechteck(std::size_t index) const {
     const QPoint p = platz_[index];
@@ -57,11 +64,12 @@ QPoint Kartenfeld::kartenmitte(std::size_t index) const {
     const QRect r = kartenrechteck(index);
     // The last card of its row shows whole; the others only up to the next one.
     const bool zuoberst = index + 1 == codes_.size() || platz_[index + 1].y() != platz_[index].y();
-    return {r.left() + (zuoberst ? r.width() : versatz()) / 2, r.center().y()};
+    return {r.left() + (zuoberst ? r.width() : std::min(versatz(), r.width())) / 2, r.center().y()};
 }
 
 QSize Kartenfeld::sizeHint() const {
-    return {2 * Rand + (proZeile_ - 1) * versatz() + kartengroesse().width(), Rand + zeilen_ * (hoehe_ + Rand)};
+    return {2 * Rand + (proZeile_ - 1) * (kartengroesse().width() * 55 / 100) + kartengroesse().width(),
+            Rand + zeilen_ * (hoehe_ + Rand)};
 }
 
 void Kartenfeld::paintEvent(QPaintEvent*) {

@@ -22,6 +22,7 @@ public:
     const std::vector<int>& karten() const { return codes_; }
     // Centre of the visible part of the card at `index` (for clicks in tests).
     QPoint kartenmitte(std::size_t index) const;
+    QRect kartenrechteck(std::size_t index) const;
     QSize sizeHint() const override;
 
 signals:
@@ -33,7 +34,6 @@ protected:
 
 private:
     void anordnen();
-    QRect kartenrechteck(std::size_t index) const;
     QSize kartengroesse() const;
     int versatz() const;
 

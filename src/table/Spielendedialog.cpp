@@ -3,9 +3,11 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "Lerntexte.h"
 #include "Tischtexte.h"
 
 namespace table {
@@ -37,9 +39,16 @@ Spielendedialog::Spielendedialog(const Spielergebnis& ergebnis, QWidget* parent)
     tabelle_->setFixedHeight(tabelle_->horizontalHeader()->sizeHint().height() + 2 * tabelle_->rowHeight(0) + 6);
     spalte->addWidget(tabelle_);
 
-    auto* knoepfe = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    connect(knoepfe, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    spalte->addWidget(knoepfe);
+    knoepfe_ = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    connect(knoepfe_, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    spalte->addWidget(knoepfe_);
+}
+
+void Spielendedialog::verlaufAnbieten(std::function<void()> zeigen) {
+    QPushButton* knopf = knoepfe_->addButton(QString::fromUtf8(lerntext::VerlaufKnopf), QDialogButtonBox::ActionRole);
+    knopf->setObjectName(QStringLiteral("spielverlauf"));
+    knopf->setAutoDefault(false);
+    connect(knopf, &QPushButton::clicked, this, std::move(zeigen));
 }
 
 QString Spielendedialog::text() const { return text_->text(); }

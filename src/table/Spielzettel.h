@@ -1,10 +1,12 @@
 #pragma once
-// The score sheet: one row per game, one column per seat, the totals and the
+// The score sheet: one row per game with what was played, who won, the Augen,
+// announcements and special points, then one column per seat; the totals and the
 // condition that ends the Partie.
 #include <QWidget>
 #include <string>
 #include <vector>
 
+#include "Spielanzeige.h"
 #include "engine/Regeln.h"
 #include "engine/Sitz.h"
 
@@ -16,6 +18,7 @@ namespace table {
 struct Spielzettelinhalt {
     engine::ProSitz<std::string> namen;
     std::vector<engine::ProSitz<int>> spiele;  // points each seat got per game
+    std::vector<Spielangaben> angaben;         // per game as far as known (not for a loaded Partie's games)
     engine::ProSitz<int> summen;
     int abrOption = 2;
     int endeBei = 30;
@@ -31,6 +34,8 @@ public:
     explicit Spielzettel(QWidget* parent = nullptr);
     void setzeInhalt(const Spielzettelinhalt& inhalt);
     const QTableWidget& tabelle() const { return *tabelle_; }
+    // The first column of a seat's points.
+    static constexpr int ErsteSitzspalte = 5;
     QString endzeile() const;
 
 private:

@@ -11,6 +11,7 @@
 #include "Handordnung.h"
 #include "Kartenbilder.h"
 #include "Parteizeiger.h"
+#include "Spielanzeige.h"
 #include "Tischtexte.h"
 #include "engine/Stichspiel.h"
 
@@ -90,6 +91,11 @@ void Tischansicht::setzeStichSichtbar(bool sichtbar) {
     update();
 }
 
+void Tischansicht::setzeOffeneHaende(bool an) {
+    offeneHaende_ = an;
+    neuZeichnen();
+}
+
 bool Tischansicht::bewegtSich() const { return bewegung_.has_value(); }
 
 void Tischansicht::bewegungAbbrechen() {
@@ -106,9 +112,20 @@ void Tischansicht::karteFliegen(int pos, Sitz sitz) {
     const auto plaetze = handplaetze(l);
     for (std::size_t i = 0; i < handfolge_.size(); ++i)
         if (handfolge_[i] == pos) von = plaetze[i];
+    if (offeneHaende_ && sitz.nr() != 1) {
+        const std::vector<int>& folge = offeneFolge_[sitz];
+        const auto offen = l.offeneHand(sitz, static_cast<int>(folge.size()));
+        for (std::size_t i = 0; i < folge.size(); ++i)
+            if (folge[i] == pos) von = offen[i];
+    }
     handAktualisieren();
     stichSichtbar_ = true;
     bewegen({pos}, {von}, {l.stichplatz(sitz)}, false);
+}
+
+void Tischansicht::setzeBewegungsdauer(int flugMs, int einsammelnMs) {
+    flugMs_ = std::max(0, flugMs);
+    einsammelnMs_ = std::max(0, einsammelnMs);
 }
 
 void Tischansicht::stichEinsammeln(Sitz gewinner) {
@@ -130,7 +147,7 @@ void Tischansicht::bewegen(std::vector<int> karten, std::vector<Kartenplatz> von
                            bool ausblenden) {
     animation_->stop();
     bewegung_ = Bewegung{std::move(karten), std::move(von), std::move(nach), ausblenden, 0};
-    animation_->setDuration(optionen_.animation ? (ausblenden ? 320 : 260) : 0);
+    animation_->setDuration(optionen_.animation ? (ausblenden ? einsammelnMs_ : flugMs_) : 0);
     // A zero duration still finishes through the event loop, so callers see one order of events.
     const int nr = ++bewegungNr_;
     QTimer::singleShot(0, animation_, [this, nr] {
@@ -146,10 +163,27 @@ void Tischansicht::neuZeichnen() {
 
 void Tischansicht::handAktualisieren() {
     handfolge_ = spiel_ ? sortierteHand(*spiel_, Sitz(1)) : std::vector<int>{};
+    for (const Sitz s : engine::alleSitze)
+        offeneFolge_[s] = spiel_ && offeneHaende_ && s.nr() != 1 ? sortierteHand(*spiel_, s) : std::vector<int>{};
     if (std::find(handfolge_.begin(), handfolge_.end(), ausgewaehlt_) == handfolge_.end()) ausgewaehlt_ = 0;
 }
 
-Tischlayout Tischansicht::layout() const { return Tischlayout(QSizeF(size()), bilder_.seitenverhaeltnis()); }
+qreal Tischansicht::massstab() const {
+    const QSize minimum = minimumSizeHint();
+    return std::min({1.0, static_cast<qreal>(width()) / minimum.width(), static_cast<qreal>(height()) / minimum.height()});
+}
+
+Tischlayout Tischansicht::layout() const {
+    return Tischlayout(QSizeF(size()) / std::max<qreal>(massstab(), 0.05), bilder_.seitenverhaeltnis());
+}
+
+int Tischansicht::stichgewinnerKarte() const {
+    if (!spiel_ || spiel_->ablauf.phase != engine::Spielphase::StichVoll || spiel_->stiche.empty()) return 0;
+    const engine::Stich& stich = spiel_->stich;
+    for (int platz = 1; platz <= stich.anzahl; ++platz)
+        if (stich.sitzAn(platz) == spiel_->stiche.back().gewinner) return stich.karte(platz);
+    return 0;
+}
 
 bool Tischansicht::erlaubt(int pos) const { return spiel_ && engine::karteErlaubt(*spiel_, Sitz(1), pos); }
 
@@ -172,14 +206,15 @@ QPointF Tischansicht::kartenmitte(int pos) const {
         if (handfolge_[i] != pos) continue;
         // A point in the card's visible strip: left of centre, where the next card does not cover it.
         const qreal frei = i + 1 < plaetze.size() ? (plaetze[i + 1].mitte.x() - plaetze[i].mitte.x()) / 2 : 0;
-        return plaetze[i].mitte + QPointF(-l.kartengroesse().width() / 2 + std::max<qreal>(frei, 4), 0);
+        return (plaetze[i].mitte + QPointF(-l.kartengroesse().width() / 2 + std::max<qreal>(frei, 4), 0)) * massstab();
     }
     return {};
 }
 
-QPointF Tischansicht::stichmitte() const { return layout().stichflaeche().center(); }
+QPointF Tischansicht::stichmitte() const { return layout().stichflaeche().center() * massstab(); }
 
 int Tischansicht::karteBei(QPointF punkt) const {
+    punkt /= massstab();
     const Tischlayout l = layout();
     const auto plaetze = handplaetze(l);
     // The later card lies on top.
@@ -200,7 +235,7 @@ void Tischansicht::mousePressEvent(QMouseEvent* event) {
         waehlen(pos);
         return;
     }
-    if (layout().stichflaeche().contains(punkt)) emit stichGeklickt();
+    if (layout().stichflaeche().contains(punkt / massstab())) emit stichGeklickt();
 }
 
 void Tischansicht::mouseMoveEvent(QMouseEvent* event) {
@@ -252,8 +287,13 @@ void Tischansicht::paintEvent(QPaintEvent*) {
     maler.setRenderHint(QPainter::TextAntialiasing);
     tischMalen(maler);
     if (!spiel_) return;
+    maler.scale(massstab(), massstab());
     const Tischlayout l = layout();
-    for (const Sitz s : engine::alleSitze) sitzMalen(maler, l, s);
+    spieleckeMalen(maler, l);
+    for (const Sitz s : engine::alleSitze) {
+        sitzMalen(maler, l, s);
+        ansagenMalen(maler, l, s);
+    }
     if (stichSichtbar_) stichMalen(maler, l);
     handMalen(maler, l);
     if (bewegung_) bewegungMalen(maler, l);
@@ -300,7 +340,9 @@ void Tischansicht::karteMalen(QPainter& maler, const Kartenplatz& platz, QSizeF 
 void Tischansicht::sitzMalen(QPainter& maler, const Tischlayout& l, Sitz sitz) const {
     const qreal dpr = devicePixelRatioF();
     const int anzahl = kartenInHand(*spiel_, sitz);
-    if (sitz.nr() != 1) {
+    if (sitz.nr() != 1 && offeneHaende_) {
+        offeneHandMalen(maler, l, sitz);
+    } else if (sitz.nr() != 1) {
         const auto plaetze = l.verdeckteHand(sitz, anzahl);
         const QPixmap ruecken = bilder_.rueckseite(optionen_.rueckseite, l.kleineKarte(), dpr);
         for (const auto& p : plaetze) karteMalen(maler, p, l.kleineKarte(), ruecken);
@@ -346,15 +388,91 @@ void Tischansicht::sitzMalen(QPainter& maler, const Tischlayout& l, Sitz sitz) c
     if (optionen_.parteiZeigen) parteibildMalen(maler, l.parteibild(sitz), parteibilder_[sitz]);
 }
 
+void Tischansicht::offeneHandMalen(QPainter& maler, const Tischlayout& l, Sitz sitz) const {
+    const std::vector<int> folge = sortierteHand(*spiel_, sitz);
+    const auto plaetze = l.offeneHand(sitz, static_cast<int>(folge.size()));
+    const QSizeF groesse = l.offeneKarte(sitz);
+    for (std::size_t i = 0; i < folge.size(); ++i)
+        karteMalen(maler, plaetze[i], groesse, bilder_.vorderseite(spiel_->deck[folge[i]].code, groesse, devicePixelRatioF()));
+}
+
 void Tischansicht::stichMalen(QPainter& maler, const Tischlayout& l) const {
     const engine::Stich& stich = spiel_->stich;
     const qreal dpr = devicePixelRatioF();
+    const int gewinner = bewegung_ ? 0 : stichgewinnerKarte();
+    int gewinnerPlatz = 0;
     for (int platz = 1; platz <= stich.anzahl; ++platz) {
         const int pos = stich.karte(platz);
+        if (pos == gewinner) gewinnerPlatz = platz;
         if (bewegung_ && std::find(bewegung_->karten.begin(), bewegung_->karten.end(), pos) != bewegung_->karten.end())
             continue;
         karteMalen(maler, l.stichplatz(stich.sitzAn(platz)), l.kartengroesse(),
                    bilder_.vorderseite(spiel_->deck[pos].code, l.kartengroesse(), dpr));
+    }
+    if (gewinnerPlatz == 0) return;
+    // The winning card comes to the top of the full trick, framed in gold.
+    const Kartenplatz platz = l.stichplatz(stich.sitzAn(gewinnerPlatz));
+    const QSizeF groesse = l.kartengroesse();
+    karteMalen(maler, platz, groesse, bilder_.vorderseite(spiel_->deck[gewinner].code, groesse, dpr));
+    maler.save();
+    maler.translate(platz.mitte);
+    maler.rotate(platz.winkel);
+    const QRectF rahmen(QPointF(-groesse.width() / 2, -groesse.height() / 2), groesse);
+    const qreal radius = groesse.width() * 0.07;
+    maler.setBrush(Qt::NoBrush);
+    const qreal staerke = std::max<qreal>(3, groesse.width() * 0.035);
+    for (int ring = 3; ring >= 1; --ring) {
+        // A soft glow outside the card, a solid line on its edge.
+        maler.setPen(QPen(QColor(255, 196, 0, ring == 1 ? 255 : 70), staerke * (ring == 1 ? 1 : ring * 1.6)));
+        maler.drawRoundedRect(rahmen.adjusted(1.5, 1.5, -1.5, -1.5), radius, radius);
+    }
+    maler.restore();
+}
+
+void Tischansicht::ansagenMalen(QPainter& maler, const Tischlayout& l, Sitz sitz) const {
+    const std::vector<Ansageschild> schilder = ansagenVon(*spiel_, sitz);
+    for (std::size_t i = 0; i < schilder.size() && i < 2; ++i) {
+        const QRectF feld = l.ansageschild(sitz, static_cast<int>(i));
+        const QColor farbe = schilder[i].seite == engine::ParteiRe ? QColor(190, 30, 40) : QColor(40, 80, 170);
+        maler.setPen(QPen(farbe, 2));
+        maler.setBrush(QColor(255, 255, 255, 235));
+        maler.drawRoundedRect(feld, feld.height() / 4, feld.height() / 4);
+        QFont f = font();
+        f.setBold(true);
+        f.setPixelSize(std::max(8, static_cast<int>(feld.height() * 0.6)));
+        const QString text = QString::fromStdString(schilder[i].text);
+        // A long limit text gets a smaller font rather than being cut.
+        while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(text) > feld.width() - 6) f.setPixelSize(f.pixelSize() - 1);
+        maler.setFont(f);
+        maler.drawText(feld, Qt::AlignCenter, text);
+    }
+}
+
+// Quiet print in the top right corner: what is played, which game, who dealt.
+void Tischansicht::spieleckeMalen(QPainter& maler, const Tischlayout& l) const {
+    const std::vector<std::string> zeilen = spielecke(*spiel_, bilder_.franzoesisch());
+    if (zeilen.empty()) return;
+    const QRectF ecke = l.spielecke();
+    QFont f = font();
+    f.setPixelSize(std::clamp(static_cast<int>(ecke.height() / 5 / 1.3), 9, 15));
+    const QFontMetricsF mass(f);
+    const qreal zeile = mass.lineSpacing();
+    qreal breite = 0;
+    for (const std::string& z : zeilen) breite = std::max(breite, mass.horizontalAdvance(QString::fromStdString(z)));
+    const qreal innen = 6;
+    const QRectF feld(QPointF(ecke.right() - std::min(ecke.width(), breite + 2 * innen), ecke.top()),
+                      QSizeF(std::min(ecke.width(), breite + 2 * innen),
+                             std::min(ecke.height(), zeile * static_cast<qreal>(zeilen.size()) + 2 * innen - 2)));
+    maler.setPen(Qt::NoPen);
+    maler.setBrush(QColor(0, 0, 0, 70));
+    maler.drawRoundedRect(feld, 6, 6);
+    maler.setFont(f);
+    maler.setPen(QColor(255, 255, 255, 225));
+    for (std::size_t i = 0; i < zeilen.size(); ++i) {
+        const QRectF z(feld.left() + innen, feld.top() + innen - 1 + zeile * static_cast<qreal>(i), feld.width() - 2 * innen, zeile);
+        if (z.bottom() > feld.bottom() + 1) break;
+        maler.drawText(z, Qt::AlignLeft | Qt::AlignVCenter,
+                       mass.elidedText(QString::fromStdString(zeilen[i]), Qt::ElideRight, z.width()));
     }
 }
 

@@ -31,11 +31,16 @@ public:
     void setzeParteibilder(const engine::ProSitz<int>& bilder);
     const engine::ProSitz<int>& parteibilder() const { return parteibilder_; }
     void setzeStichSichtbar(bool sichtbar);
+    // "Alle Karten zeigen": the other seats' cards face up, for learning.
+    void setzeOffeneHaende(bool an);
+    bool offeneHaende() const { return offeneHaende_; }
 
     // Card movement: a card just played flies from its hand to the trick; a complete
     // trick slides to its winner and is gone. Without "Animation" both end at once.
     // Either way `bewegungFertig` follows from the event loop, never from inside the call.
     void karteFliegen(int pos, engine::Sitz sitz);
+    // How long a flight and a collection take while "Animation" is on.
+    void setzeBewegungsdauer(int flugMs, int einsammelnMs);
     void stichEinsammeln(engine::Sitz gewinner);
     bool bewegtSich() const;
     // Drops a movement under way without reporting it (the state it showed is gone).
@@ -48,7 +53,12 @@ public:
     QPointF kartenmitte(int pos) const;
     QPointF stichmitte() const;
     int ausgewaehlt() const { return ausgewaehlt_; }
+    // The layout in the table's own coordinates; painted scaled by massstab().
     Tischlayout layout() const;
+    // Below its minimum size the table is drawn smaller as a whole, so nothing is cut off.
+    qreal massstab() const;
+    // The deck position of the card that wins the full trick on the table, 0 for none.
+    int stichgewinnerKarte() const;
 
     QSize sizeHint() const override { return {1024, 720}; }
     QSize minimumSizeHint() const override { return {640, 460}; }
@@ -77,6 +87,9 @@ private:
     void tischMalen(QPainter& maler) const;
     void karteMalen(QPainter& maler, const Kartenplatz& platz, QSizeF groesse, const QPixmap& bild) const;
     void sitzMalen(QPainter& maler, const Tischlayout& layout, engine::Sitz sitz) const;
+    void ansagenMalen(QPainter& maler, const Tischlayout& layout, engine::Sitz sitz) const;
+    void spieleckeMalen(QPainter& maler, const Tischlayout& layout) const;
+    void offeneHandMalen(QPainter& maler, const Tischlayout& layout, engine::Sitz sitz) const;
     void stichMalen(QPainter& maler, const Tischlayout& layout) const;
     void bewegungMalen(QPainter& maler, const Tischlayout& layout) const;
     void handMalen(QPainter& maler, const Tischlayout& layout) const;
@@ -87,6 +100,8 @@ private:
     std::optional<engine::Sitz> amZug_;
     bool kartenwahl_ = false;
     bool stichSichtbar_ = true;
+    bool offeneHaende_ = false;
+    engine::ProSitz<std::vector<int>> offeneFolge_;  // the other seats' cards as laid out face up
     engine::ProSitz<int> parteibilder_{0};
     std::vector<int> handfolge_;
     int ausgewaehlt_ = 0;  // deck position under the mouse or the keyboard cursor
@@ -100,7 +115,9 @@ private:
     };
     std::optional<Bewegung> bewegung_;
     QVariantAnimation* animation_ = nullptr;
-    int bewegungNr_ = 0;  // a start still waiting in the event loop belongs to this movement
+    int bewegungNr_ = 0;
+    int flugMs_ = 260;
+    int einsammelnMs_ = 320;  // a start still waiting in the event loop belongs to this movement
 };
 
 }  // namespace table

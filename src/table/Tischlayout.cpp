@@ -71,7 +71,7 @@ Tischlayout::Tischlayout(QSizeF flaeche, qreal seitenverhaeltnis) : flaeche_(fla
         }
         stichmitte_ = QPointF(w / 2, 0);
         const QRectF stich = stichflaeche();
-        const qreal oben = rand_ + std::max(klein_.height(), schild_.height() * 1.6 + rand_) + rand_;
+        const qreal oben = kopfzeile();
         const qreal platz = handOben - rand_ - oben;
         stichmitte_.setY(oben + platz / 2 - stich.center().y());
         if (stich.height() <= platz) break;
@@ -104,12 +104,30 @@ std::vector<Kartenplatz> Tischlayout::verdeckteHand(engine::Sitz sitz, int anzah
     // Seats 2 and 4 hold their cards sideways in a column beside the trick.
     const qreal x = sitz.nr() == 2 ? rand_ + klein_.height() / 2 : flaeche_.width() - rand_ - klein_.height() / 2;
     const QRectF schild = namensschild(sitz);
-    const qreal oben = rand_ + std::max(klein_.height(), schild_.height() * 1.6 + rand_) + rand_;
+    const qreal oben = kopfzeile();
     const qreal platz = schild.top() - rand_ - oben;
     const qreal schritt = anzahl > 1 ? std::min(klein_.width() * 0.24, (platz - klein_.width()) / (anzahl - 1)) : 0;
     const qreal y = (oben + schild.top() - rand_) / 2;
     for (int i = 0; i < anzahl; ++i)
         plaetze.push_back({QPointF(x, y + (i - mitte) * schritt), sitz.nr() == 2 ? 90.0 : -90.0});
+    return plaetze;
+}
+
+std::vector<Kartenplatz> Tischlayout::offeneHand(engine::Sitz sitz, int anzahl) const {
+    if (sitz.nr() == 1 || sitz.nr() == 3 || anzahl <= 0) return verdeckteHand(sitz, anzahl);
+    constexpr int Spalten = 3;
+    const QSizeF karte = offeneKarte(sitz);
+    const int zeilen = (anzahl + Spalten - 1) / Spalten;
+    // The grid fills the strip the face-down column takes, between the top and the name plate.
+    const qreal links = sitz.nr() == 2 ? rand_ : flaeche_.width() - rand_ - klein_.height();
+    const qreal oben = rand_ + std::max(klein_.height(), schild_.height() * 1.6 + rand_) + rand_;
+    const qreal unten = namensschild(sitz).top() - rand_;
+    const qreal dx = std::min(karte.width() * 0.6, (klein_.height() - karte.width()) / (Spalten - 1));
+    const qreal dy = zeilen > 1 ? std::clamp((unten - oben - karte.height()) / (zeilen - 1), 0.0, karte.height() * 0.45) : 0;
+    const qreal y0 = (oben + unten) / 2 - (karte.height() + dy * (zeilen - 1)) / 2 + karte.height() / 2;
+    std::vector<Kartenplatz> plaetze;
+    for (int i = 0; i < anzahl; ++i)
+        plaetze.push_back({QPointF(links + karte.width() / 2 + (i % Spalten) * dx, y0 + (i / Spalten) * dy), 0});
     return plaetze;
 }
 
@@ -160,5 +178,26 @@ QRectF Tischlayout::parteibild(engine::Sitz sitz) const {
         default: return QRectF(flaeche_.width() - 2 * rand_ - klein_.height() - e, schild.top() - rand_ - e * 2.4, e, e * 2.4);
     }
 }
+
+QRectF Tischlayout::ansageschild(engine::Sitz sitz, int nr) const {
+    const QRectF bild = parteibild(sitz);
+    const qreal e = schild_.height() * 0.55;
+    const QSizeF g(e * 2.4, e * 0.8);
+    const qreal schritt = nr * (g.height() + rand_);
+    switch (sitz.nr()) {
+        case 1: return QRectF(QPointF(bild.left(), bild.top() - rand_ - g.height() - schritt), g);
+        case 3: return QRectF(QPointF(bild.left(), bild.bottom() + rand_ + schritt), g);
+        case 2: return QRectF(QPointF(bild.right() + rand_, bild.top() + schritt), g);
+        default: return QRectF(QPointF(bild.left() - rand_ - g.width(), bild.top() + schritt), g);
+    }
+}
+
+QRectF Tischlayout::spielecke() const {
+    const qreal reihe = klein_.width() * (1 + (VolleHand - 1) * 0.24);
+    return QRectF(QPointF(flaeche_.width() / 2 + reihe / 2 + 2 * rand_, rand_),
+                  QPointF(flaeche_.width() - rand_, kopfzeile() - rand_));
+}
+
+qreal Tischlayout::kopfzeile() const { return rand_ + std::max(klein_.height(), schild_.height() * 1.6 + rand_) + rand_; }
 
 }  // namespace table

@@ -33,6 +33,10 @@ public:
     std::vector<Kartenplatz> hand(int anzahl) const;
     // The face-down hands of seats 2 (left), 3 (top) and 4 (right).
     std::vector<Kartenplatz> verdeckteHand(engine::Sitz sitz, int anzahl) const;
+    // The same hands face up ("Alle Karten zeigen"): seat 3 as before, seats 2 and 4
+    // upright in a grid of three columns, so each card's corner can be read.
+    std::vector<Kartenplatz> offeneHand(engine::Sitz sitz, int anzahl) const;
+    QSizeF offeneKarte(engine::Sitz sitz) const { return sitz.nr() == 3 ? klein_ : klein_ * 0.75; }
     // A seat's card in the trick.
     Kartenplatz stichplatz(engine::Sitz sitz) const;
     // Where a seat's cards come from when they fly to the trick.
@@ -42,8 +46,15 @@ public:
     // Name plate (name, Augen) and the party picture beside it.
     QRectF namensschild(engine::Sitz sitz) const;
     QRectF parteibild(engine::Sitz sitz) const;
+    // The seat's announcements (the first two) next to its party picture.
+    QRectF ansageschild(engine::Sitz sitz, int nr) const;
+    // The quiet corner top right for the game type, number, dealer and Vorhand.
+    QRectF spielecke() const;
 
 private:
+    // Height of the top row (seat 3's hand and plate); the side columns begin below it.
+    qreal kopfzeile() const;
+
     QSizeF flaeche_;
     QSizeF karte_;
     QSizeF klein_;

@@ -2,17 +2,25 @@
 
 #include <QAction>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRandomGenerator>
+#include <QStandardPaths>
+#include <utility>
 
 #include "Dateiwahl.h"
 #include "Einstellform.h"
 #include "Hauptfenster.h"
 #include "Kartenbilder.h"
+#include "Lernhilfen.h"
 #include "Qtext.h"
 #include "Regelseite.h"
+#include "Spielpause.h"
 #include "Stichbetrachter.h"
+#include "Tempostufen.h"
 #include "Tischsteuerung.h"
 #include "Tischtexte.h"
 #include "Verteilungsdialog.h"
@@ -42,17 +50,11 @@ void melden(QWidget* eltern, const savegame::Meldung& m) {
     }
 }
 
-// The program's own dialogs hold the game until they are closed.
-class Pause {
-public:
-    explicit Pause(Tischsteuerung& s) : s_(s) { s_.dialogOffen(true); }
-    ~Pause() { s_.dialogOffen(false); }
-    Pause(const Pause&) = delete;
-    Pause& operator=(const Pause&) = delete;
-
-private:
-    Tischsteuerung& s_;
-};
+// File dialogs start in the folder used last, else in the home folder.
+QString dialogordner(const settings::Benutzerspeicher& speicher) {
+    const QString ordner = savegame::letzterOrdner(speicher);
+    return !ordner.isEmpty() && QDir(ordner).exists() ? ordner : QDir::homePath();
+}
 
 }  // namespace
 
@@ -75,13 +77,30 @@ Tischprogramm::Tischprogramm(Hauptfenster& hfo, Tischsteuerung& steuerung, setti
         fensterZeigen();
     });
     steuerung_.setzeKartengeber([this](const engine::Spiel& spiel) { return kartenGeben(spiel); });
+    lernhilfen_ = std::make_unique<Lernhilfen>(hfo_, steuerung_, speicher_);
+    connect(&steuerung_, &Tischsteuerung::standGeaendert, this, &Tischprogramm::sichern);
+    // A Partie thrown away for a new one is not offered again.
+    connect(&hfo_, &Hauptfenster::neuePartieGewuenscht, this, [this] {
+        letzterStand_.reset();
+        if (!sicherung_.isEmpty()) QFile::remove(sicherung_);
+    });
+    hfo_.setzeBeendenPruefung([this] { return beendenPruefen(); });
 }
+
+QString Tischprogramm::standardSicherungsdatei() {
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).filePath(QStringLiteral("letzte-partie.dkp"));
+}
+
+Tischprogramm::~Tischprogramm() = default;
 
 void Tischprogramm::EinstUebernehmen(const settings::Einstellungen& e, const Benutzereinstellungen& b) {
     const bool vollbildVorher = einstellungen_.vollbild != 0;
     einstellungen_ = e;
     benutzer_ = b;
     steuerung_.setzeOptionen(anzeigeoptionen(e));
+    // The pace is taken over when its setting changed, so a pace set from outside (tests) stays.
+    const int tempo = e.animation == 0 ? TempoAus : b.tempo;
+    if (std::exchange(tempostufe_, tempo) != tempo) steuerung_.setzeTempo(tempoFuer(tempo));
     steuerung_.setzeRegelOptionen(e.regeln);
     engine::ProSitz<std::string> namen;
     engine::ProSitz<int> charaktere;
@@ -118,10 +137,16 @@ void Tischprogramm::starten(const QString& ladeDatei) {
 }
 
 void Tischprogramm::willkommen_zeigen() {
+    const bool fortsetzbar = !sicherung_.isEmpty() && QFile::exists(sicherung_);
     Willkommen willkommen(einstellungen_.regeln, &hfo_);
+    willkommen.fortsetzenAnbieten(fortsetzbar);
     willkommen.exec();
     if (willkommen.wahl() == Willkommen::Wahl::Laden) {
         m_partie_laden_Click();
+        if (steuerung_.spiel().ablauf.phase != engine::Spielphase::Geben || steuerung_.ablauf().partieLaeuft()) return;
+    }
+    if (willkommen.wahl() == Willkommen::Wahl::Fortsetzen) {
+        partieLaden(sicherung_);
         if (steuerung_.spiel().ablauf.phase != engine::Spielphase::Geben || steuerung_.ablauf().partieLaeuft()) return;
     }
     steuerung_.neuePartie();
@@ -130,7 +155,11 @@ void Tischprogramm::willkommen_zeigen() {
 void Tischprogramm::einstellungenZeigen() {
     Pause pause(steuerung_);
     Einstellform form(einstellungen_, benutzer_, {speicher_, optionsdatei_, dateiwahl_, kontext_}, &hfo_);
-    connect(&form, &Einstellform::zurueckgesetzt, this, &Tischprogramm::programmEndeVerlangt);
+    connect(&form, &Einstellform::zurueckgesetzt, this, [this] {
+        // Nothing is asked or written back after a reset.
+        ohneFrageBeenden_ = true;
+        emit programmEndeVerlangt();
+    });
     if (form.exec() == QDialog::Accepted) EinstUebernehmen(form.einstellungen(), form.benutzer());
 }
 
@@ -162,21 +191,57 @@ void Tischprogramm::m_partie_speichern_Click() {
     if (!steuerung_.speicherbar()) return;
     Pause pause(steuerung_);
     // Taken before the dialog: what the person saw when choosing to save.
-    const savegame::Spielstand stand = spielstand();
-    const QString pfad = dateiwahl_.speichern(&hfo_, {t(savegame::texte::SpeichernTitel), savegame::letzterOrdner(speicher_),
+    speichernUnter(spielstand());
+}
+
+bool Tischprogramm::speichernUnter(const savegame::Spielstand& stand) {
+    const QString pfad = dateiwahl_.speichern(&hfo_, {t(savegame::texte::SpeichernTitel), dialogordner(speicher_),
                                                        savegame::texte::SpeichernFilter, savegame::texte::DateiEndung});
-    if (pfad.isEmpty()) return;
+    if (pfad.isEmpty()) return false;
     savegame::ordnerMerken(speicher_, pfad);
-    if (!savegame::PartieSpeichern(pfad, stand))
-        QMessageBox::critical(&hfo_, QString::fromUtf8(texte::Fenstertitel),
-                              QString::fromUtf8(texte::NichtGespeichert) + QDir::toNativeSeparators(pfad));
+    if (savegame::PartieSpeichern(pfad, stand)) return true;
+    QMessageBox::critical(&hfo_, QString::fromUtf8(texte::Fenstertitel),
+                          QString::fromUtf8(texte::NichtGespeichert) + QDir::toNativeSeparators(pfad));
+    return false;
+}
+
+void Tischprogramm::sichern() {
+    if (steuerung_.spiel().ablauf.phase == engine::Spielphase::Partieende) {
+        letzterStand_.reset();
+        if (!sicherung_.isEmpty()) QFile::remove(sicherung_);
+        return;
+    }
+    letzterStand_ = spielstand();
+    if (sicherung_.isEmpty()) return;
+    QDir().mkpath(QFileInfo(sicherung_).absolutePath());
+    savegame::PartieSpeichern(sicherung_, *letzterStand_);
+}
+
+bool Tischprogramm::beendenPruefen() {
+    if (ohneFrageBeenden_ || !steuerung_.partieOffen()) return true;
+    Pause pause(steuerung_);
+    QMessageBox frage(QMessageBox::Question, QString::fromUtf8(texte::Fenstertitel), t(texte::BeendenFrage),
+                      QMessageBox::NoButton, &hfo_);
+    if (!sicherung_.isEmpty()) frage.setInformativeText(t(texte::BeendenSicherung));
+    QPushButton* speichern = frage.addButton(t(texte::BeendenSpeichern), QMessageBox::AcceptRole);
+    QPushButton* beenden = frage.addButton(t(texte::BeendenOhneSpeichern), QMessageBox::DestructiveRole);
+    QPushButton* bleiben = frage.addButton(t(texte::BeendenAbbrechen), QMessageBox::RejectRole);
+    frage.setDefaultButton(speichern);
+    frage.setEscapeButton(bleiben);
+    frage.exec();
+    if (frage.clickedButton() == beenden) return true;
+    if (frage.clickedButton() != speichern) return false;
+    // Between two games (dealing, reservations) the last state a file can hold is saved:
+    // the end of the game before.
+    const bool jetzt = steuerung_.speicherbar() || !letzterStand_;
+    return speichernUnter(jetzt ? spielstand() : *letzterStand_);
 }
 
 void Tischprogramm::m_partie_laden_Click() {
     QString pfad;
     {
         Pause pause(steuerung_);
-        pfad = dateiwahl_.oeffnen(&hfo_, {t(savegame::texte::LadenTitel), savegame::letzterOrdner(speicher_),
+        pfad = dateiwahl_.oeffnen(&hfo_, {t(savegame::texte::LadenTitel), dialogordner(speicher_),
                                           savegame::texte::LadenFilter, savegame::texte::DateiEndung});
     }
     if (pfad.isEmpty()) return;
@@ -209,6 +274,7 @@ void Tischprogramm::partieLaden(const QString& pfad) {
             }
         }
     }
+    if (weiter != savegame::Weiter::LaufendesSpiel) emit partieGeladen();
     switch (weiter) {
         case savegame::Weiter::LaufendesSpiel: return;
         case savegame::Weiter::NeuePartie: steuerung_.neuePartie(); return;
@@ -222,7 +288,7 @@ void Tischprogramm::partieLaden(const QString& pfad) {
 }
 
 std::optional<engine::Kartenverteilung> Tischprogramm::kartenGeben(const engine::Spiel& spiel) {
-    if (!benutzer_.manuelleVerteilung) return std::nullopt;
+    if (!benutzer_.manuelleVerteilung || !manuellErlaubt_) return std::nullopt;
     QMessageBox frage(QMessageBox::Question, QString::fromUtf8(texte::Fenstertitel),
                       t(engine::ablauftext::ManuelleVerteilung), QMessageBox::Yes | QMessageBox::No, &hfo_);
     frage.setDefaultButton(QMessageBox::No);

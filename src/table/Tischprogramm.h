@@ -4,6 +4,7 @@
 // and loads a Partie, shows the welcome screen at the first new Partie and asks
 // for a deal by hand. The controller plays; the main window shows.
 #include <QObject>
+#include <memory>
 #include <optional>
 
 #include "Benutzereinstellungen.h"
@@ -19,6 +20,7 @@ namespace table {
 
 class Dateiwahl;
 class Hauptfenster;
+class Lernhilfen;
 class Tischsteuerung;
 
 class Tischprogramm : public QObject {
@@ -26,9 +28,11 @@ class Tischprogramm : public QObject {
 public:
     Tischprogramm(Hauptfenster& hfo, Tischsteuerung& steuerung, settings::Benutzerspeicher& speicher,
                   Dateiwahl& dateiwahl, QString optionsdatei, QObject* parent = nullptr);
+    ~Tischprogramm() override;
 
     const settings::Einstellungen& einstellungen() const { return einstellungen_; }
     const Benutzereinstellungen& benutzer() const { return benutzer_; }
+    Lernhilfen& lernhilfen() { return *lernhilfen_; }
     void setzeLesekontext(const settings::Lesekontext& kontext) { kontext_ = kontext; }
 
     // Takes changed options into the running program: display, names and sound at
@@ -42,20 +46,36 @@ public:
     // The window as the options want it: full screen or with its own frame.
     void fensterZeigen();
 
+    // Whether "Manuelle Kartenverteilung?" may be asked (not in a tournament Partie).
+    void setzeManuellesGebenErlaubt(bool erlaubt) { manuellErlaubt_ = erlaubt; }
+
     // The state a saved file gets (also for tests).
     savegame::Spielstand spielstand() const;
+
+    // The file that always holds the running Partie (empty: none is kept); the
+    // welcome screen offers to resume it. The program's own lies in the data folder.
+    void setzeSicherungsdatei(const QString& pfad) { sicherung_ = pfad; }
+    const QString& sicherungsdatei() const { return sicherung_; }
+    static QString standardSicherungsdatei();
+
+    // Before the program ends: during a Partie the person may save it or stay.
+    bool beendenPruefen();
 
 signals:
     // Sound options or card names changed; the sound player follows.
     void einstellungenUebernommen(const settings::Einstellungen& e);
     // The settings were reset: the program ends without writing anything back.
     void programmEndeVerlangt();
+    // A saved Partie replaces the running one (or a new one begins after it).
+    void partieGeladen();
 
 public slots:
     void willkommen_zeigen();
     void einstellungenZeigen();
     void regelnZeigen();
     void m_partie_speichern_Click();
+    // Keeps the running Partie in the automatic save, or removes it once the Partie is over.
+    void sichern();
     void m_partie_laden_Click();
     // The loading flow for a file: its messages, the finished-game question, resuming.
     void partieLaden(const QString& pfad);
@@ -63,6 +83,8 @@ public slots:
 private:
     std::optional<engine::Kartenverteilung> kartenGeben(const engine::Spiel& spiel);
     void menueAnpassen();
+    // The save dialog for `stand`; false when cancelled or not written.
+    bool speichernUnter(const savegame::Spielstand& stand);
 
     Hauptfenster& hfo_;
     Tischsteuerung& steuerung_;
@@ -72,6 +94,12 @@ private:
     settings::Lesekontext kontext_;
     settings::Einstellungen einstellungen_;
     Benutzereinstellungen benutzer_;
+    std::unique_ptr<Lernhilfen> lernhilfen_;
+    int tempostufe_ = -1;  // the "Tempo" last taken over
+    bool manuellErlaubt_ = true;
+    QString sicherung_;
+    std::optional<savegame::Spielstand> letzterStand_;  // the last state a file can hold
+    bool ohneFrageBeenden_ = false;                      // after a reset of the settings
 };
 
 }  // namespace table

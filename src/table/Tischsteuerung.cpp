@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include <QAction>
+#include <QApplication>
+#include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -11,6 +13,7 @@
 #include "Dialogtexte.h"
 #include "Hauptfenster.h"
 #include "Meldungsdialog.h"
+#include "Netzanbindung.h"
 #include "Qtext.h"
 #include "Spielendedialog.h"
 #include "Stichbetrachter.h"
@@ -44,11 +47,15 @@ std::vector<int> codesVon(const engine::Spiel& spiel, const std::vector<int>& po
 
 template <class F>
 auto Tischsteuerung::modal(F&& zeigen) {
-    imDialog_ = true;
+    ++dialoge_;
+    netzBeschaeftigtMelden();
     struct Ende {
-        bool& offen;
-        ~Ende() { offen = false; }
-    } ende{imDialog_};
+        Tischsteuerung& s;
+        ~Ende() {
+            --s.dialoge_;
+            s.netzBeschaeftigtMelden();
+        }
+    } ende{*this};
     return zeigen();
 }
 
@@ -61,10 +68,12 @@ bool Tischsteuerung::menschGefragt(const Anfrage& a) const {
 }
 
 Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent)
-    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &begruendungen_) {
+    : QObject(parent), hfo_(hfo), zufall_(std::move(zufall)), ablauf_(spiel_, *zufall_), wissen_(*zufall_, &protokoll_) {
     for (const Sitz s : engine::alleSitze) spiel_.namen[s] = "Spieler" + std::to_string(s.nr());
     ablauf_.meldungenAn(this);
     ablauf_.beobachterHinzufuegen(&wissen_);
+    ablauf_.beobachterHinzufuegen(this);
+    ablauf_.beobachterHinzufuegen(&protokoll_);
     wissen_.msgBoxModus = hfo_.msgBoxModus();
     connect(hfo_.msgboxenAktion(), &QAction::toggled, this, [this] {
         wissen_.msgBoxModus = hfo_.msgBoxModus();
@@ -84,6 +93,7 @@ Tischsteuerung::Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufall
         weiter();
     });
     connect(&hfo_, &Hauptfenster::neuePartieGewuenscht, this, &Tischsteuerung::neuePartie);
+    connect(&hfo_, &Hauptfenster::frageOffen, this, &Tischsteuerung::dialogOffen);
     connect(&hfo_, &Hauptfenster::automatikGewuenscht, this, &Tischsteuerung::automatikUmschalten);
     connect(&hfo_, &Hauptfenster::reKontraGewuenscht, this, &Tischsteuerung::reKontra);
     connect(&hfo_, &Hauptfenster::limitGewuenscht, this, &Tischsteuerung::limit);
@@ -100,9 +110,15 @@ void Tischsteuerung::setzeOptionen(const Anzeigeoptionen& optionen) {
     ablauf_.kartenbildFranzoesisch(engine::franzoesischeBilder(optionen.kartenbild));
 }
 
+void Tischsteuerung::setzeTempo(Tempo tempo) {
+    tempo_ = tempo;
+    hfo_.tisch().setzeBewegungsdauer(tempo.flug, tempo.einsammeln);
+}
+
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
 
 void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
+    if (netz_) return;  // at a network table the names are the players' own
     spiel_.namen = namen;
     hfo_.tisch().update();
 }
@@ -119,7 +135,7 @@ void Tischsteuerung::setzeEntscheider(Sitz sitz, std::shared_ptr<engine::Entsche
 }
 
 void Tischsteuerung::spielerPassend() {
-    players::Spielerumgebung umgebung{wissen_, *zufall_, &begruendungen_};
+    players::Spielerumgebung umgebung{wissen_, *zufall_, &protokoll_};
     for (const Sitz s : engine::alleSitze) {
         if (vorgegeben_[s] || (entscheider_[s] && gebaut_[s] == spiel_.charakter[s])) continue;
         entscheider_[s] = players::spielerErzeugen(spielerartFuer(spiel_.charakter[s]), umgebung);
@@ -139,14 +155,18 @@ void Tischsteuerung::ablaufZuruecksetzen() {
     einsammelnLaeuft_ = false;
     partieendeGemeldet_ = false;
     zugGemeldet_ = -1;
+    gemeldeterStand_ = {-1, -1, -1};
     meldungen_.clear();
+    fremdeKarten_.clear();
 }
 
 void Tischsteuerung::neuePartie() {
     begonnen_ = true;
     ablaufZuruecksetzen();
     zeilen_.clear();
+    angaben_.clear();
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     hfo_.partieendeAnzeigen(false);
     ablauf_.neuePartie();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -157,6 +177,7 @@ void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
     begonnen_ = true;
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
+    protokoll_.vergessen();
     spiel_ = stand;
     hfo_.tisch().bewegungAbbrechen();
     hfo_.tisch().setzeStichSichtbar(true);
@@ -175,11 +196,13 @@ void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
     const bool schonGewertet = spiel_.ergebnis.gewertet;
     // The score sheet of the Partie so far, as far as the table of games holds it.
     zeilen_.clear();
+    angaben_.clear();
     const int gespielt = std::min(spiel_.partie.spielNr - (schonGewertet ? 0 : 1),
                                   static_cast<int>(spiel_.partie.spieltabelle.size()));
     if (spiel_.regeln.abrOption == 2)
         for (int i = 0; i < gespielt; ++i) zeilen_.push_back(spiel_.partie.spieltabelle[static_cast<std::size_t>(i)]);
     letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
     ablauf_.geladenesSpielFortsetzen();
     wissen_.nachvollziehen(spiel_);
     hfo_.partieendeAnzeigen(spiel_.ablauf.phase == engine::Spielphase::Partieende);
@@ -191,14 +214,80 @@ void Tischsteuerung::geladenFortsetzen(const engine::Spiel& stand) {
 }
 
 void Tischsteuerung::dialogOffen(bool offen) {
-    imDialog_ = offen;
+    dialoge_ = std::max(0, dialoge_ + (offen ? 1 : -1));
+    netzBeschaeftigtMelden();
     if (!offen) weiter();
+}
+
+void Tischsteuerung::netzAnbinden(Netzanbindung* netz) {
+    netz_ = netz;
+    begonnen_ = true;
+    ablaufZuruecksetzen();
+    begruendungen_.verwerfen();
+    zeilen_.clear();
+    angaben_.clear();
+    letztesSpiel_ = engine::Spiel{};
+    letzteBegruendungen_ = {};
+    spiel_.automatik = false;
+    spiel_.steuerung = engine::Spiel::standardSteuerung();
+    hfo_.tisch().bewegungAbbrechen();
+    hfo_.partieendeAnzeigen(false);
+    ablauf_.neuePartie();
+    hfo_.tisch().setzeStichSichtbar(true);
+    weiter();
+}
+
+void Tischsteuerung::netzBeschaeftigtMelden() {
+    if (!netz_) return;
+    netz_->anzeigeBeschaeftigt(beschaeftigt_ || imDialog() || !fremdeKarten_.empty() ||
+                               spiel_.ablauf.phase == engine::Spielphase::StichVoll);
+}
+
+void Tischsteuerung::karteGespielt(const engine::Spiel&, Sitz sitz, int pos) {
+    if (spiel_.steuerung[sitz] != Steuerung::Netz) return;
+    fremdeKarten_.emplace_back(pos, sitz);
+    netzBeschaeftigtMelden();
+}
+
+engine::Bescheid Tischsteuerung::beantworten(const Antwort& antwort) {
+    if (netz_)
+        if (const auto b = netz_->antworten(antwort)) return *b;
+    return ablauf_.antworten(antwort);
+}
+
+engine::Bescheid Tischsteuerung::ansagen(Sitz sitz, const engine::Ansage& ansage) {
+    if (netz_ && sitz == Sitz(1))
+        if (const auto b = netz_->ansagen(ansage)) return *b;
+    return ablauf_.ansagen(sitz, ansage);
+}
+
+int Tischsteuerung::gelegteKarte(Sitz sitz, int gewaehlt) const {
+    const int platz = spiel_.stich.platz[sitz];
+    return platz > 0 ? spiel_.stich.karte(platz) : gewaehlt;
 }
 
 bool Tischsteuerung::speicherbar() const {
     using engine::Spielphase;
     const Spielphase p = spiel_.ablauf.phase;
     return p == Spielphase::Kartenspiel || p == Spielphase::StichVoll || p == Spielphase::Partieende;
+}
+
+bool Tischsteuerung::partieOffen() const {
+    if (netz_ && !netz_->eigenePartie()) return false;
+    return ablauf_.partieLaeuft() && spiel_.ablauf.phase != engine::Spielphase::Partieende;
+}
+
+// Once per card, trick, scored game and end of Partie, for the automatic save.
+void Tischsteuerung::standMelden() {
+    using engine::Spielphase;
+    const Spielphase p = spiel_.ablauf.phase;
+    if (!speicherbar() && p != Spielphase::Spielende) return;
+    if (netz_ && !netz_->eigenePartie()) return;
+    const std::tuple<int, int, int> stand{spiel_.partie.spielNr, spiel_.sticheGespielt * 4 + spiel_.stich.anzahl,
+                                          static_cast<int>(p)};
+    if (stand == gemeldeterStand_) return;
+    gemeldeterStand_ = stand;
+    emit standGeaendert();
 }
 
 void Tischsteuerung::planen(int ms, void (Tischsteuerung::*schritt)()) {
@@ -208,7 +297,7 @@ void Tischsteuerung::planen(int ms, void (Tischsteuerung::*schritt)()) {
     QTimer::singleShot(ms, this, [this, nr, schritt] {
         if (nr != schritt_) return;  // a new Partie began meanwhile
         geplant_ = false;
-        if (imDialog_) return;       // planned again when the dialog closes
+        if (imDialog()) return;      // planned again when the dialog closes
         (this->*schritt)();
     });
 }
@@ -223,7 +312,8 @@ void Tischsteuerung::meldungenZeigen() {
     while (!meldungen_.empty()) {
         const engine::Meldung m = meldungen_.front();
         meldungen_.erase(meldungen_.begin());
-        if (!optionen_.boxen || (m.titel.empty() && m.text.empty())) {
+        // Automatic play does not stop for the game's messages: they pass in the status line.
+        if (!optionen_.boxen || spiel_.automatik || (m.titel.empty() && m.text.empty())) {
             hfo_.statusSetzen(t(m.text));
             continue;
         }
@@ -234,20 +324,38 @@ void Tischsteuerung::meldungenZeigen() {
 // One step of the game: show the state, then answer the open request or wait for
 // the person, a timer or an animation.
 void Tischsteuerung::weiter() {
-    if (!begonnen_ || beschaeftigt_ || imDialog_ || geplant_) return;
+    netzBeschaeftigtMelden();
+    if (!begonnen_ || beschaeftigt_ || imDialog() || geplant_) return;
+    if (!fremdeKarten_.empty()) {
+        const auto [pos, sitz] = fremdeKarten_.front();
+        fremdeKarten_.erase(fremdeKarten_.begin());
+        karteGelegt(pos, sitz);
+        return;
+    }
+    // The table and status line as they stand behind the boxes that come now.
+    if (!meldungen_.empty() || !begruendungen_.leer()) anzeigen(ablauf_.anfrage());
     meldungenZeigen();
     begruendungenZeigen();
     const Anfrage a = ablauf_.anfrage();
     anzeigen(a);
+    standMelden();
     const bool mensch = menschGefragt(a);
+    const bool entscheidung = a.art == Anfrageart::Neugeben || a.art == Anfrageart::Vorbehalt || a.art == Anfrageart::Karte;
+    if (entscheidung && a.steuerung == Steuerung::Netz) {
+        if (netz_) netz_->anfrageAnNetz(a);
+        return;
+    }
+    // A guest's seat 1 decides once the host has asked.
+    if (entscheidung && a.sitz == Sitz(1) && netz_ && !netz_->darfAntworten()) return;
     switch (a.art) {
         case Anfrageart::Geben:
+            if (netz_ && !netz_->darfGeben()) return;
             geben();
             planen(0, &Tischsteuerung::weiter);
             return;
         case Anfrageart::Neugeben:
             if (mensch) neugebenBeantworten(a);
-            else ablauf_.antworten(Antwort::neugeben(a.neugeben.computerWuerde));
+            else beantworten(Antwort::neugeben(a.neugeben.computerWuerde));
             planen(0, &Tischsteuerung::weiter);
             return;
         case Anfrageart::Vorbehalt:
@@ -271,6 +379,7 @@ void Tischsteuerung::weiter() {
             if (optionen_.einsammeln == 0) planen(tempo_.stich, &Tischsteuerung::einsammeln);
             return;  // otherwise a click on the trick collects it
         case Anfrageart::NaechstesSpiel:
+            if (netz_ && !netz_->spielendeDa()) return;
             spielendeZeigen();
             ablauf_.antworten(Antwort::weiter(Anfrageart::NaechstesSpiel));
             emit spielGewertet();
@@ -308,10 +417,9 @@ void Tischsteuerung::begruendungenZeigen() {
 }
 
 engine::ProSitz<int> Tischsteuerung::parteibilder() const {
-    // Until the first trick is taken every seat shows the picture of an unknown party.
+    const engine::ProSitz<int> parteien = sichtbareParteien(spiel_, wissen_.zeigerBild);
     engine::ProSitz<int> bilder;
-    for (const Sitz s : engine::alleSitze)
-        bilder[s] = wissen_.zeigerBild[s] > 0 ? wissen_.zeigerBild[s] : players::parteibild(s, engine::ParteiUnbekannt);
+    for (const Sitz s : engine::alleSitze) bilder[s] = players::parteibild(s, parteien[s]);
     return bilder;
 }
 
@@ -319,10 +427,11 @@ void Tischsteuerung::anzeigen(const Anfrage& a) {
     Tischansicht& tisch = hfo_.tisch();
     QString status = t(a.status);
     if (a.art == Anfrageart::StichEinsammeln && optionen_.einsammeln != 0) status = QString::fromUtf8(texte::Einsammeln);
+    if (netz_) status = netz_->status(a, status);
     hfo_.statusSetzen(status);
     const bool karte = a.art == Anfrageart::Karte;
     tisch.setzeAmZug(karte ? a.sitz : std::nullopt);
-    tisch.setzeKartenwahl(karte && menschGefragt(a));
+    tisch.setzeKartenwahl(karte && menschGefragt(a) && (!netz_ || netz_->darfAntworten()));
     tisch.setzeParteibilder(parteibilder());
     tisch.neuZeichnen();
     hfo_.ansagemenueSetzen(ablauf_.menue(Sitz(1)));
@@ -339,7 +448,7 @@ void Tischsteuerung::neugebenBeantworten(const Anfrage& a) {
         return Meldungsdialog::fragen(hfo_.bilder(), &hfo_, t(engine::neugebenTitel(grund)), t(a.neugeben.frage),
                                       codesVon(spiel_, engine::gezeigteKarten(spiel_, *a.sitz, grund)));
     });
-    ablauf_.antworten(Antwort::neugeben(ja));
+    beantworten(Antwort::neugeben(ja));
 }
 
 void Tischsteuerung::vorbehaltBeantworten(const Anfrage& a) {
@@ -347,10 +456,10 @@ void Tischsteuerung::vorbehaltBeantworten(const Anfrage& a) {
     const bool mensch = menschGefragt(a);
     const engine::Vorbehalt v =
         mensch ? modal([&] { return vorbehaltFragen(a); }) : entscheider(s).vorbehaltWaehlen(spiel_, s);
-    const engine::Bescheid b = ablauf_.antworten(Antwort::mitVorbehalt(v));
+    const engine::Bescheid b = beantworten(Antwort::mitVorbehalt(v));
     if (b) return;
     if (mensch && !b.grund.empty()) hinweisen(t(texte::SoloTitel), b.grund);
-    ablauf_.antworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
+    beantworten(Antwort::mitVorbehalt(engine::Vorbehalt{}));
 }
 
 engine::Vorbehalt Tischsteuerung::vorbehaltFragen(const Anfrage& a) {
@@ -387,53 +496,60 @@ void Tischsteuerung::computerKarte() {
     if (a.art != Anfrageart::Karte || a.steuerung != Steuerung::Computer || beschaeftigt_) return weiter();
     const Sitz s = *a.sitz;
     engine::Entscheider& e = entscheider(s);
+    if (s == Sitz(1) && netz_ && !netz_->darfAntworten()) return weiter();
     if (ablauf_.ansageMoeglich(s))
-        if (const auto ansage = e.ansageWaehlen(spiel_, s)) ablauf_.ansagen(s, *ansage);
+        if (const auto ansage = e.ansageWaehlen(spiel_, s)) ansagen(s, *ansage);
     int pos = e.karteWaehlen(spiel_, s);
     // The reasons come before the card, and the card waits until every box is closed.
     begruendungenZeigen();
     if (ablauf_.offeneArt() != Anfrageart::Karte || ablauf_.sitzDerAnfrage() != s) return weiter();
-    if (!ablauf_.antworten(Antwort::karte(pos))) {
+    if (!beantworten(Antwort::karte(pos))) {
         pos = engine::ersteErlaubteKarte(spiel_, s);
-        ablauf_.antworten(Antwort::karte(pos));
+        beantworten(Antwort::karte(pos));
     }
-    karteGelegt(pos, s);
+    karteGelegt(gelegteKarte(s, pos), s);
 }
 
 void Tischsteuerung::karteGelegt(int pos, Sitz sitz) {
     beschaeftigt_ = true;
+    netzBeschaeftigtMelden();
     hfo_.tisch().setzeKartenwahl(false);
     hfo_.tisch().karteFliegen(pos, sitz);
 }
 
 void Tischsteuerung::karteGewaehlt(int pos) {
     const Anfrage a = ablauf_.anfrage();
-    if (a.art != Anfrageart::Karte || !menschGefragt(a) || beschaeftigt_ || imDialog_) return;
-    const engine::Bescheid b = ablauf_.antworten(Antwort::karte(pos));
+    if (a.art != Anfrageart::Karte || !menschGefragt(a) || beschaeftigt_ || imDialog()) return;
+    if (netz_ && !netz_->darfAntworten()) return;
+    const engine::Bescheid b = beantworten(Antwort::karte(pos));
     if (!b) {
         // The card stays in the hand; the person chooses again.
         hinweisen(t(texte::FalscheKarteTitel), b.grund);
         return;
     }
-    karteGelegt(pos, Sitz(1));
+    karteGelegt(gelegteKarte(Sitz(1), pos), Sitz(1));
 }
 
 void Tischsteuerung::einsammeln() {
     if (spiel_.ablauf.phase != engine::Spielphase::StichVoll || beschaeftigt_) return weiter();
     beschaeftigt_ = true;
     einsammelnLaeuft_ = true;
+    netzBeschaeftigtMelden();
     hfo_.tisch().stichEinsammeln(spiel_.stiche.back().gewinner);
 }
 
 void Tischsteuerung::stichGeklickt() {
-    if (ablauf_.anfrage().art != Anfrageart::StichEinsammeln || beschaeftigt_ || imDialog_ || geplant_) return;
+    if (ablauf_.anfrage().art != Anfrageart::StichEinsammeln || beschaeftigt_ || imDialog() || geplant_) return;
     einsammeln();
 }
 
 void Tischsteuerung::spielendeZeigen() {
     const engine::Spielergebnis& e = spiel_.ergebnis;
     zeilen_.push_back(e.punkte);
+    angaben_.resize(zeilen_.size() - 1);
+    angaben_.push_back(spielangaben(spiel_, engine::franzoesischeBilder(optionen_.kartenbild)));
     letztesSpiel_ = spiel_;
+    letzteBegruendungen_ = protokoll_.spiel();
     Spielergebnis r;
     r.titel = texte::SpielendeTitel;
     r.text = e.text;
@@ -442,6 +558,14 @@ void Tischsteuerung::spielendeZeigen() {
     r.summen = spiel_.partie.punkte;
     modal([&] {
         Spielendedialog box(r, &hfo_);
+        // Automatic play lets the result be read, then goes on by itself, unless the
+        // person opened something from the box meanwhile.
+        QTimer schliessen;
+        connect(&schliessen, &QTimer::timeout, &box, [&box] {
+            if (QApplication::activeModalWidget() == &box) box.accept();
+        });
+        if (spiel_.automatik) schliessen.start(tempo_.spielende);
+        if (verlaufZeigen_) box.verlaufAnbieten([this, &box] { verlaufZeigen_(&box); });
         box.exec();
     });
 }
@@ -452,9 +576,9 @@ void Tischsteuerung::ansageBescheid(const engine::Bescheid& b) {
     anzeigen(ablauf_.anfrage());
 }
 
-void Tischsteuerung::reKontra() { ansageBescheid(ablauf_.ansagen(Sitz(1), engine::Ansage{})); }
+void Tischsteuerung::reKontra() { ansageBescheid(ansagen(Sitz(1), engine::Ansage{})); }
 
-void Tischsteuerung::limit(int limitCode) { ansageBescheid(ablauf_.ansagen(Sitz(1), engine::Ansage{true, limitCode})); }
+void Tischsteuerung::limit(int limitCode) { ansageBescheid(ansagen(Sitz(1), engine::Ansage{true, limitCode})); }
 
 void Tischsteuerung::automatikUmschalten() {
     ablauf_.automatikUmschalten();
@@ -484,6 +608,7 @@ Spielzettelinhalt Tischsteuerung::spielzettelInhalt() const {
     Spielzettelinhalt inhalt;
     inhalt.namen = spiel_.namen;
     inhalt.spiele = zeilen_;
+    inhalt.angaben = angaben_;
     inhalt.summen = spiel_.partie.punkte;
     inhalt.abrOption = spiel_.regeln.abrOption;
     inhalt.endeBei = spiel_.regeln.endeBei;
@@ -498,6 +623,9 @@ void Tischsteuerung::spielzettelZeigen() {
     zettel->setzeInhalt(spielzettelInhalt());
     auto* spalte = new QVBoxLayout(&dialog);
     spalte->addWidget(zettel);
+    auto* knoepfe = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
+    connect(knoepfe, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    spalte->addWidget(knoepfe);
     modal([&] { dialog.exec(); });
     weiter();
 }

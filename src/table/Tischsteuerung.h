@@ -8,30 +8,38 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <tuple>
 #include <vector>
 
 #include "Anzeigeoptionen.h"
 #include "Begruendungsanzeige.h"
+#include "Spielanzeige.h"
 #include "Spielzettel.h"
 #include "engine/Geben.h"
 #include "engine/Meldung.h"
 #include "engine/Spielablauf.h"
 #include "engine/Zufall.h"
+#include "players/Begruendungsprotokoll.h"
 #include "players/Tischwissen.h"
 
 namespace table {
 
 class Hauptfenster;
+class Netzanbindung;
 class Spielzettel;
 class Stichbetrachter;
 
-// How long the table lets a computer card or a full trick be seen (milliseconds).
+// How long the table lets a computer card or a full trick be seen, and how long a
+// card flies to the trick and a trick to its winner (milliseconds; see Tempostufen.h).
 struct Tempo {
     int karte = 550;
-    int stich = 1100;
+    int stich = 1500;  // long enough to see the marked winner of the trick
+    int flug = 260;
+    int einsammeln = 320;
+    int spielende = 4500;  // the end box during automatic play, then it closes by itself
 };
 
-class Tischsteuerung : public QObject, public engine::Meldungssenke {
+class Tischsteuerung : public QObject, public engine::Meldungssenke, public engine::Spielbeobachter {
     Q_OBJECT
 public:
     Tischsteuerung(Hauptfenster& hfo, std::unique_ptr<engine::Zufallsquelle> zufall, QObject* parent = nullptr);
@@ -40,7 +48,7 @@ public:
     void setzeOptionen(const Anzeigeoptionen& optionen);
     void setzeRegelOptionen(const engine::RegelOptionen& regeln);
     void setzeNamen(const engine::ProSitz<std::string>& namen);
-    void setzeTempo(Tempo tempo) { tempo_ = tempo; }
+    void setzeTempo(Tempo tempo);
     // The seats' "charakter" (kind of computer player); taken over with the next deal.
     void setzeCharaktere(const engine::ProSitz<int>& charaktere);
     // Puts a fixed player at a seat instead of the one its character names (tests).
@@ -60,18 +68,36 @@ public:
     void dialogOffen(bool offen);
     // Whether the state is one a saved game can hold (cards are being played, or the Partie is over).
     bool speicherbar() const;
+    // A Partie is under way and not yet over: ending the program would lose it.
+    bool partieOffen() const;
+
+    // Plays at a network table from here on (nullptr: alone again). The table is
+    // cleared and waits for the network's first deal.
+    void netzAnbinden(Netzanbindung* netz);
+    Netzanbindung* netz() const { return netz_; }
+    // The game state, for the network table that keeps it in step (names, who
+    // plays each seat, the cards and decisions of the other machines).
+    engine::Spiel& spielFuerNetz() { return spiel_; }
 
     const engine::Spiel& spiel() const { return spiel_; }
     // The last scored game (its tricks stay viewable while the next one runs).
     const engine::Spiel& letztesSpiel() const { return letztesSpiel_; }
+    // What the computer players gave as reasons in the last scored game.
+    const players::Spielbegruendungen& letzteBegruendungen() const { return letzteBegruendungen_; }
+    // Offered in the end box: opens the review of the game just scored over it.
+    void setzeVerlaufAnzeige(std::function<void(QWidget* eltern)> zeigen) { verlaufZeigen_ = std::move(zeigen); }
     engine::Spielablauf& ablauf() { return ablauf_; }
     // What the computer seats believe; it also drives the party pictures.
     const players::Tischwissen& wissen() const { return wissen_; }
     // The score sheet rows of the running Partie, one per scored game.
     const std::vector<engine::ProSitz<int>>& spielzettelZeilen() const { return zeilen_; }
+    // What each of those games was (empty for games of a loaded Partie).
+    const std::vector<Spielangaben>& spielzettelAngaben() const { return angaben_; }
     Spielzettelinhalt spielzettelInhalt() const;
 
     void meldung(const engine::Meldung& m) override;
+    // A card played at another machine flies in as a computer card does.
+    void karteGespielt(const engine::Spiel& spiel, engine::Sitz sitz, int pos) override;
 
 signals:
     // Seat 1 is to play a card (for the your-turn signal).
@@ -81,6 +107,8 @@ signals:
     // A game was scored and its end box closed.
     void spielGewertet();
     void partieBeendet();
+    // The game moved on to a state worth keeping (a card, a trick, a score, the end).
+    void standGeaendert();
 
 public slots:
     void weiter();
@@ -120,8 +148,16 @@ private:
     void zustandUebernehmen(const engine::Spiel& stand);
     void einsammeln();
     void spielendeZeigen();
+    bool imDialog() const { return dialoge_ > 0; }
+    void standMelden();
     void sticheZeigen(const engine::Spiel& spiel, const std::vector<engine::StichProtokoll>& stiche);
     void ansageBescheid(const engine::Bescheid& b);
+    // Seat 1's decisions go to the network when it takes them, else to the cycle.
+    engine::Bescheid beantworten(const engine::Antwort& antwort);
+    engine::Bescheid ansagen(engine::Sitz sitz, const engine::Ansage& ansage);
+    // The position the cycle took for the seat's card (a guest plays the first of two equal cards).
+    int gelegteKarte(engine::Sitz sitz, int gewaehlt) const;
+    void netzBeschaeftigtMelden();
     engine::Entscheider& entscheider(engine::Sitz sitz);
 
     Hauptfenster& hfo_;
@@ -131,6 +167,7 @@ private:
     Anzeigeoptionen optionen_;
     Tempo tempo_;
     Begruendungsanzeige begruendungen_;
+    players::Begruendungsprotokoll protokoll_{&begruendungen_};  // keeps the reasons, then shows them
     players::Tischwissen wissen_;
     engine::ProSitz<int> charaktere_{2};
     engine::ProSitz<std::shared_ptr<engine::Entscheider>> entscheider_;
@@ -139,15 +176,21 @@ private:
     Kartengeber kartengeber_;
     std::vector<engine::Meldung> meldungen_;
     std::vector<engine::ProSitz<int>> zeilen_;
+    std::vector<Spielangaben> angaben_;
     engine::Spiel letztesSpiel_;  // the last scored game, for its tricks
+    players::Spielbegruendungen letzteBegruendungen_;
+    std::function<void(QWidget*)> verlaufZeigen_;
     bool begonnen_ = false;       // nothing is dealt before a Partie is begun or a game taken over
     bool geplant_ = false;        // a step is scheduled
     bool beschaeftigt_ = false;   // a card flies or a trick is being collected
-    bool imDialog_ = false;       // a modal dialog of ours is open
+    int dialoge_ = 0;             // modal dialogs open (ours and the program's, one may open over another)
     bool einsammelnLaeuft_ = false;
     bool partieendeGemeldet_ = false;
     int zugGemeldet_ = -1;        // the card count at which seat 1's turn was last signalled
+    std::tuple<int, int, int> gemeldeterStand_{-1, -1, -1};  // game, cards, phase of the last standGeaendert
     int schritt_ = 0;             // counts Partien, so a timer of an abandoned one does nothing
+    Netzanbindung* netz_ = nullptr;
+    std::vector<std::pair<int, engine::Sitz>> fremdeKarten_;  // played at another machine, not yet shown
 };
 
 }  // namespace table

@@ -12,6 +12,7 @@ inline constexpr char MenuSpiel[] = "&Spiel";
 inline constexpr char NeuePartie[] = "&Neue Partie";
 inline constexpr char EinstellungenMenue[] = "&Einstellungen...";
 inline constexpr char NetzprotokollZeigen[] = "&Netzprotokoll zeigen";
+inline constexpr char FoyerMenue[] = "Internet-&Foyer...";
 inline constexpr char Ende[] = "&Ende";
 inline constexpr char MenuAnsagen[] = "A&nsagen";
 inline constexpr char MenuAnsicht[] = "&Ansicht";
@@ -32,12 +33,37 @@ inline constexpr char ParteiRe[] = "Re";
 inline constexpr char ParteiKontra[] = "Kontra";
 inline constexpr char ParteiUnbekannt[] = "?";
 
+// Announcements beside the seats, by limit code (0 Schwarz .. 3 keine 90).
+inline constexpr const char* LimitSchilder[] = {"Schwarz", "keine 30", "keine 60", "keine 90"};
+
+// The game corner of the table.
+inline constexpr char Normalspiel[] = "Normalspiel";
+inline constexpr char Pflichtsolo[] = " (Pflichtsolo)";
+inline constexpr char StillesSolo[] = "Stilles Solo";
+inline constexpr char HochzeitErsterStich[] = "Hochzeit: erster Stich";
+inline constexpr char HochzeitErsterFehlstich[] = "Hochzeit: erster Fehlstich";
+inline constexpr char HochzeitErsterTrumpfstich[] = "Hochzeit: erster Trumpfstich";
+inline constexpr char HochzeitMit[] = "Hochzeit mit ";
+inline constexpr char HochzeitAllein[] = "Hochzeit ohne Partner";
+inline constexpr char SpielNummer[] = "Spiel ";
+inline constexpr char SpielVon[] = " von ";
+inline constexpr char SpielBisPunkte[] = " (bis %1 Punkte)";
+inline constexpr char Geber[] = "Geber: ";
+inline constexpr char Vorhand[] = "Vorhand: ";
+inline constexpr char Faktor[] = "Faktor ";
+inline constexpr char Bockspiel[] = "Bockspiel";
+
 // The computer players' reasoning boxes.
 inline constexpr char UeberlegungVon[] = "Überlegung von ";
 inline constexpr char RegelKennung[] = "Regel ";
 
-// Saving.
+// Saving, and ending the program during a Partie.
 inline constexpr char NichtGespeichert[] = "Die Partie konnte nicht gespeichert werden:\n";
+inline constexpr char BeendenFrage[] = "Die Partie ist noch nicht zu Ende. Möchten Sie sie vor dem Beenden speichern?";
+inline constexpr char BeendenSicherung[] = "Auch ohne Speichern können Sie sie beim nächsten Start fortsetzen.";
+inline constexpr char BeendenSpeichern[] = "&Speichern...";
+inline constexpr char BeendenOhneSpeichern[] = "&Beenden";
+inline constexpr char BeendenAbbrechen[] = "&Abbrechen";
 
 // The welcome screen and the rules page.
 inline constexpr char WillkommenTitel[] = "Willkommen";
@@ -46,6 +72,7 @@ inline constexpr char WillkommenText[] =
     "Doppelkopf zu viert: Sie spielen an Sitz 1 gegen drei Computerspieler. Wie möchten Sie beginnen?";
 inline constexpr char WillkommenNeu[] = "&Neue Partie beginnen";
 inline constexpr char WillkommenLaden[] = "Gespeicherte Partie &laden...";
+inline constexpr char WillkommenFortsetzen[] = "Letzte Partie &fortsetzen";
 inline constexpr char WillkommenRegeln[] = "&Spielregeln lesen";
 inline constexpr char WillkommenAbschalten[] =
     "Diesen Bildschirm können Sie unter Spiel, Einstellungen, Anzeige abschalten.";
@@ -71,6 +98,11 @@ inline constexpr char PartieendeNach[] = "Partieende nach ";
 inline constexpr char Spielen[] = " Spielen";
 inline constexpr char Summe[] = "Summe";
 inline constexpr char DiesesSpiel[] = "Dieses Spiel";
+inline constexpr char SpalteSpiel[] = "Spiel";
+inline constexpr char SpalteGewinner[] = "Gewinner";
+inline constexpr char SpalteAugen[] = "Augen Re : Kontra";
+inline constexpr char SpalteAnsagen[] = "Ansagen";
+inline constexpr char SpalteSonderpunkte[] = "Sonderpunkte";
 inline constexpr char SpielzettelTitel[] = "Spielzettel";
 inline constexpr char SpielendeTitel[] = "Spielergebnis";
 

@@ -18,8 +18,9 @@ namespace table {
 using engine::Sitz;
 
 namespace {
-constexpr int KartenhoeheStapel = 58;
-constexpr int KartenhoeheHand = 58;
+// The pile large enough to read every corner; a row of it fills the width.
+constexpr int KartenhoeheStapel = 84;
+constexpr int KartenhoeheHand = 64;
 }
 
 Verteilungsdialog::Verteilungsdialog(Kartenbilder& bilder, int kartenanzahl, bool joker,

@@ -28,14 +28,14 @@ Willkommen::Willkommen(const engine::RegelOptionen& regeln, QWidget* parent) : Q
     text->setWordWrap(true);
     spalte->addWidget(text);
 
+    fortsetzen_ = new QPushButton(t(texte::WillkommenFortsetzen), this);
     neu_ = new QPushButton(t(texte::WillkommenNeu), this);
     laden_ = new QPushButton(t(texte::WillkommenLaden), this);
     regeln_ = new QPushButton(t(texte::WillkommenRegeln), this);
-    for (QPushButton* k : {neu_, laden_, regeln_}) {
+    for (QPushButton* k : {fortsetzen_, neu_, laden_, regeln_}) {
         k->setMinimumHeight(40);
         spalte->addWidget(k);
     }
-    neu_->setDefault(true);
     connect(neu_, &QPushButton::clicked, this, [this] {
         wahl_ = Wahl::NeuePartie;
         accept();
@@ -44,7 +44,12 @@ Willkommen::Willkommen(const engine::RegelOptionen& regeln, QWidget* parent) : Q
         wahl_ = Wahl::Laden;
         accept();
     });
+    connect(fortsetzen_, &QPushButton::clicked, this, [this] {
+        wahl_ = Wahl::Fortsetzen;
+        accept();
+    });
     connect(regeln_, &QPushButton::clicked, this, &Willkommen::regelnZeigen);
+    fortsetzenAnbieten(false);
 
     auto* abschalten = new QLabel(t(texte::WillkommenAbschalten), this);
     abschalten->setWordWrap(true);
@@ -53,6 +58,13 @@ Willkommen::Willkommen(const engine::RegelOptionen& regeln, QWidget* parent) : Q
     abschalten->setFont(klein);
     spalte->addWidget(abschalten);
     setMinimumWidth(440);
+}
+
+void Willkommen::fortsetzenAnbieten(bool an) {
+    fortsetzen_->setVisible(an);
+    // The kept Partie is the likely wish; Enter takes it.
+    (an ? fortsetzen_ : neu_)->setDefault(true);
+    (an ? neu_ : fortsetzen_)->setDefault(false);
 }
 
 void Willkommen::regelnZeigen() {

@@ -19,15 +19,30 @@ TEST(Kommandozeile, GueltigeAufrufe) {
     EXPECT_EQ(a.aufruf->modus, Modus::Turnier);
     EXPECT_EQ(a.aufruf->spieler, (std::vector<std::string>{"regelwerk", "zufall"}));
 
+    a = kommandozeileAuswerten({"--host", "--port", "0", "--auto", "--guests", "3", "--games", "5", "--tick", "0"});
+    ASSERT_TRUE(a.aufruf) << a.fehler;
+    EXPECT_EQ(a.aufruf->modus, Modus::Host);
+    EXPECT_EQ(a.aufruf->port, 0);
+    EXPECT_EQ(a.aufruf->gaeste, 3);
+    EXPECT_EQ(a.aufruf->spiele, 5);
+    EXPECT_EQ(a.aufruf->takt, 0);
+
+    a = kommandozeileAuswerten({"--foyer", "irc.example:6667", "--name", "Anna", "--auto", "--take-seat", "--games", "3"});
+    ASSERT_TRUE(a.aufruf) << a.fehler;
+    EXPECT_EQ(a.aufruf->modus, Modus::Foyer);
+    EXPECT_EQ(a.aufruf->foyerAdresse, "irc.example:6667");
+    EXPECT_EQ(a.aufruf->foyerrolle, app::Foyerrolle::PlatzNehmen);
+
     a = kommandozeileAuswerten({});
     ASSERT_TRUE(a.aufruf);
     EXPECT_EQ(a.aufruf->modus, Modus::Spiel);
+    EXPECT_FALSE(a.aufruf->port);
 }
 
 TEST(Kommandozeile, FehlerWerdenGemeldet) {
     const std::vector<std::vector<std::string>> falsch{
         {"--autoplay"}, {"--autoplay", "x"}, {"--autoplay", "-3"}, {"--seed", "1a"}, {"--players", "a"},
-        {"--port", "70000"}, {"--gibtsnicht"}, {"--games", "0"}};
+        {"--port", "70000"}, {"--gibtsnicht"}, {"--games", "0"}, {"--guests", "4"}, {"--tick", "-1"}, {"--foyer"}};
     for (const auto& args : falsch) {
         const auto a = kommandozeileAuswerten(args);
         EXPECT_FALSE(a.aufruf) << args[0];

@@ -157,16 +157,16 @@ TEST(Abwerfen, Zweithand) {
 }
 
 // A seat void in the led suit that knows it has no trump goes straight to the discards;
-// one that holds trump first asks the ruffing rules and says so when it discards after all.
+// one that holds trump asks the ruffing rules, which also decide when to discard.
 TEST(Abwerfen, WegUeberStechenOderAbwerfen) {
     for (const bool mitTrumpf : {false, true}) {
         std::vector<int> zwei{PikNeun, PikAs};
         if (mitTrumpf) zwei.push_back(KaroNeun);
         Situation s(engine::Normalspiel, {{KreuzAs}, zwei, {KreuzKoenig}, {KreuzNeun}});
         s.nachStich({KreuzAs});
-        EXPECT_EQ(s.waehlt(), PikNeun) << mitTrumpf;
-        EXPECT_EQ(s.ersteRegel(), "abwerfen:ZH01") << mitTrumpf;
+        EXPECT_EQ(s.waehlt(), mitTrumpf ? KaroNeun : PikNeun) << mitTrumpf;
+        EXPECT_EQ(s.ersteRegel(), mitTrumpf ? "stechen_oder_abwerfen:ZH0044" : "abwerfen:ZH01") << mitTrumpf;
         EXPECT_EQ(s.regeln().size(), 1u) << mitTrumpf;
-        EXPECT_EQ(s.zeigte(players::text::AbwurfStattStechen), mitTrumpf);
+        EXPECT_FALSE(s.zeigte(players::text::AbwurfStattStechen));
     }
 }

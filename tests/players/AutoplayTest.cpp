@@ -28,7 +28,7 @@ TEST(RegelwerkAutoplay, TausendeSpieleInVierRegelwerken) {
                             {"mit Joker", mitJoker, 2000},
                             {"Damen-Buben-Solo, Solist hat Vorhand, Pflichtsolo, Supersau", vorbehalte, 3000}};
     for (const Zeile& z : zeilen) {
-        testhilfe::Testtisch tisch(2024, z.regeln);
+        testhilfe::Testtisch tisch(2, z.regeln);
         players::Regelstatistik statistik;
         players::Spielstatistik spiele;
         players::Senkenverteiler senken;

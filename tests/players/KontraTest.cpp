@@ -145,6 +145,16 @@ TEST(KontraPruefen, HarteRegelnNachDenAugen) {
     }
 }
 
+// A score that happens to be 101 is a score like any other: the seat says why it announces.
+TEST(KontraPruefen, AnsagewertVon101IstKeineHarteRegel) {
+    Ansagelage a;
+    a.augen(0, 80, 0, 0);  // 21 + 80
+    const players::Ansagepruefung e = a.pruefen();
+    EXPECT_TRUE(e.ansagen);
+    EXPECT_EQ(e.wert, 101);
+    EXPECT_EQ(a.s.regeln(), std::vector<std::string>{"KontraPruefen:Wert"});
+}
+
 // Leading after the first trick the seat does not decide at all.
 TEST(KontraPruefen, KeinEntscheidAmAufspiel) {
     Situation s(engine::Normalspiel, Ansagelage::haende(true));

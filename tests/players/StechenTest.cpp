@@ -37,14 +37,22 @@ TEST(StechenOderAbwerfen, Hinterhand) {
          {KreuzAs, PikDame, KreuzKoenig}, nullptr, {"stechen_oder_abwerfen:HH38"}, PikNeun},
         {"Gegner sticht zu hoch, nur Trumpf", {kreuz, {PikDame}, koenig, {KaroKoenig, KaroNeun}},
          {KreuzAs, PikDame, KreuzKoenig}, nullptr, {"stechen_oder_abwerfen:HH39"}, KaroNeun},
-        {"nur Zähler abzuwerfen auf 32 Augen: stechen", {kreuz, {KreuzZehn}, {KreuzAs}, {PikDame, PikZehn, HerzAs}},
-         {KreuzAs, KreuzZehn, KreuzAs}, nullptr, {"stechen_oder_abwerfen:HH38", "Filter:Zaehlerstich"}, PikDame},
-        {"nur Zähler abzuwerfen auf 25 Augen: abwerfen", {kreuz, {KreuzZehn}, koenig, {PikDame, PikZehn, HerzAs}},
+        {"Gegner sticht hoch: Karo-Neun statt des Asses", {kreuz, {PikDame}, koenig, {KaroNeun, PikAs, HerzAs}},
+         {KreuzAs, PikDame, KreuzKoenig}, nullptr, {"stechen_oder_abwerfen:HH38"}, KaroNeun},
+        {"ungestochener Stich, nur eine Dame: mit ihr stechen", {kreuz, {KreuzZehn}, koenig, {PikDame, PikZehn, HerzAs}},
+         {KreuzAs, KreuzZehn, KreuzKoenig}, nullptr, {"stechen_oder_abwerfen:HH33"}, PikDame},
+        // With the Dolle as the only trump the trick is left, unless only Zähler could go.
+        {"nur die Dolle und Zähler, 32 Augen: stechen", {kreuz, {KreuzZehn}, {KreuzAs}, {Dolle, PikZehn, HerzAs}},
+         {KreuzAs, KreuzZehn, KreuzAs}, nullptr, {"stechen_oder_abwerfen:HH38", "Filter:Zaehlerstich"}, Dolle},
+        {"nur die Dolle und Zähler, 25 Augen: abwerfen", {kreuz, {KreuzZehn}, koenig, {Dolle, PikZehn, HerzAs}},
          {KreuzAs, KreuzZehn, KreuzKoenig}, nullptr, {"stechen_oder_abwerfen:HH38"}, PikZehn},
         {"Partei hält, mein einziger Trumpf ist der höchste", {kreuz, neun, koenig, {Dolle, PikAs, PikNeun}},
          {KreuzAs, KreuzNeun, KreuzKoenig}, freundHaelt, {"stechen_oder_abwerfen:HH10"}, PikAs},
         {"Partei hält, nur Trumpf, der höchste bleibt", {kreuz, neun, koenig, {Dolle, KaroNeun}},
          {KreuzAs, KreuzNeun, KreuzKoenig}, freundHaelt, {"stechen_oder_abwerfen:HH11"}, KaroNeun},
+        // HH11 speaks of keeping the highest, not of the Fuchs: that goes onto the sure trick.
+        {"Partei hält, nur Trumpf mit Fuchs: Fuchs statt Karo-Neun", {kreuz, neun, {KreuzKoenig, KaroKoenig}, {Dolle, KaroAs, KaroNeun}},
+         {KreuzAs, KreuzNeun, KreuzKoenig}, freundHaelt, {"stechen_oder_abwerfen:HH17"}, KaroAs},
         {"Partei hält, Fuchs versetzen", {kreuz, neun, koenig, {KaroAs, KaroNeun, PikAs}},
          {KreuzAs, KreuzNeun, KreuzKoenig}, freundHaelt, {"stechen_oder_abwerfen:HH17"}, KaroAs},
         {"Partei hält, letzter Trumpf bleibt", {kreuz, {KreuzNeun, PikDame}, {PikDame}, {KaroNeun, PikAs, PikNeun}},
@@ -67,6 +75,50 @@ TEST(StechenOderAbwerfen, Hinterhand) {
          {"stechen_oder_abwerfen:HH33", "Filter:Herz"}, PikKoenig},
     };
     for (const Fall& f : faelle) pruefen(f);
+}
+
+// Zweithand and Dritthand: Kreuz led, the seat on turn holds none. Enough Kreuz is out
+// for the seats behind to follow unless the knowledge says otherwise.
+TEST(StechenOderAbwerfen, ZweithandUndDritthand) {
+    const std::vector<int> drei{KreuzKoenig, KreuzKoenig, KreuzNeun}, vier{KreuzZehn, KreuzZehn, KreuzNeun, KaroDame};
+    const auto feind = [](int k, int x) { return [=](Situation& s) { s.glaubt(k, x, ParteiRe); }; };
+    const Fall faelle[] = {
+        {"Zweithand: As des Feindes, beide bedienen: mit kleinem Trumpf stechen",
+         {{KreuzAs}, {KaroNeun, PikDame, PikNeun}, drei, vier}, {KreuzAs}, feind(2, 1),
+         {"stechen_oder_abwerfen:ZH0007"}, KaroNeun},
+        {"Zweithand: As des Feindes, Hinterhand ist blank: mit der Dame hoch genug",
+         {{KreuzAs}, {KaroNeun, PikDame, PikNeun}, drei, {KaroDame, HerzNeun}}, {KreuzAs},
+         [](Situation& s) { s.glaubt(2, 1, ParteiRe); s.frei(4, engine::Kreuz); }, {"stechen_oder_abwerfen:ZH0008"},
+         PikDame},
+        {"Zweithand: Neun des Feindes: nicht stechen, die blanke Pik-Neun weg", {{KreuzNeun}, {PikDame, PikNeun, HerzKoenig}, drei, vier},
+         {KreuzNeun}, feind(2, 1), {"stechen_oder_abwerfen:ZH031"}, PikNeun},
+        {"Zweithand: As des Partners, beide bedienen: nicht stechen, Zähler buttern",
+         {{KreuzAs}, {KaroNeun, PikZehn, PikNeun}, drei, vier}, {KreuzAs},
+         [](Situation& s) { s.glaubt(2, 1, ParteiKontra); }, {"stechen_oder_abwerfen:ZH255"}, PikZehn},
+        {"Dritthand: Feind sticht, billig überstechen, HH muss bedienen",
+         {{KreuzAs}, {KaroBube}, {HerzBube, PikNeun}, {KreuzNeun, KreuzZehn}}, {KreuzAs, KaroBube}, feind(3, 2),
+         {"stechen_oder_abwerfen:DH38"}, HerzBube},
+        {"Dritthand: Partner sticht, HH muss bedienen: Zähler buttern",
+         {{KreuzAs}, {KaroBube}, {HerzBube, PikZehn}, {KreuzNeun, KreuzZehn}}, {KreuzAs, KaroBube},
+         [](Situation& s) { s.glaubt(3, 2, ParteiKontra); }, {"stechen_oder_abwerfen:DH106"}, PikZehn},
+        {"Dritthand: Partner hält sicher, Fuchs versetzen", {{KreuzAs}, {KreuzNeun}, {KaroAs, PikNeun}, {KreuzNeun, KreuzZehn}},
+         {KreuzAs, KreuzNeun}, [](Situation& s) { s.glaubt(3, 1, ParteiKontra); }, {"stechen_oder_abwerfen:DH91"}, KaroAs},
+        {"Dritthand: Partner hält, Feind in HH ist blank: nicht buttern",
+         {{KreuzAs}, {KreuzNeun}, {PikAs, PikNeun, KaroNeun}, {KaroDame, HerzNeun}}, {KreuzAs, KreuzNeun},
+         [](Situation& s) { s.glaubt(3, 1, ParteiKontra); s.frei(4, engine::Kreuz); }, {"stechen_oder_abwerfen:DH101"},
+         PikNeun},
+    };
+    for (const Fall& f : faelle) pruefen(f);
+}
+
+// The preparation ranks a Kreuz-Bube right below an own Karo-Dame as that Dame: the ruff
+// spends the Dame and the Karlchen stays for the last trick.
+TEST(StechenOderAbwerfen, VorbereitungSchontDasKarlchen) {
+    Situation s(engine::Normalspiel, {{KreuzAs}, {KreuzBube, KaroDame, PikNeun}, {KreuzKoenig, KreuzKoenig, KreuzNeun},
+                                      {KreuzZehn, KreuzZehn, KreuzNeun}});
+    s.nachStich({KreuzAs});
+    s.glaubt(2, 1, ParteiRe);
+    EXPECT_EQ(s.waehlt(), KaroDame);
 }
 
 // With "second Dolle beats the first", a Dolle kept for the last trick would have to

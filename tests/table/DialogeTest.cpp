@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QLabel>
@@ -18,6 +19,9 @@
 #include "table/Spielendedialog.h"
 #include "table/Spielzettel.h"
 #include "table/Stichbetrachter.h"
+#include "table/Kartenfeld.h"
+#include "table/Verteilungsdialog.h"
+#include "engine/Zufall.h"
 
 namespace {
 
@@ -78,20 +82,29 @@ TEST(Dialoge, SpielzettelZeilenSummenUndEndzeile) {
     spiel1[Sitz(3)] = 2;
     spiel2[Sitz(2)] = 9;
     inhalt.spiele = {spiel1, spiel2};
+    // The first game as it was played; the second comes from a loaded Partie and has only its points.
+    inhalt.angaben = {{"Normalspiel", "Re", "151 : 89", "Re, keine 90 (Re)", "Doppelkopf (Re), Fuchs gefangen (Kontra)"}};
     inhalt.summen[Sitz(1)] = 2;
     inhalt.summen[Sitz(2)] = 9;
     inhalt.summen[Sitz(3)] = 2;
     table::Spielzettel zettel;
     zettel.setzeInhalt(inhalt);
     const QTableWidget& t = zettel.tabelle();
+    const int sitz1 = table::Spielzettel::ErsteSitzspalte;
     ASSERT_EQ(t.rowCount(), 3);
-    EXPECT_EQ(t.horizontalHeaderItem(1)->text(), QStringLiteral("Spieler2"));
-    EXPECT_EQ(t.item(0, 2)->text(), QStringLiteral("2"));
-    EXPECT_EQ(t.item(1, 1)->text(), QStringLiteral("9"));
+    ASSERT_EQ(t.columnCount(), sitz1 + 4);
+    const char* kopf[] = {"Spiel", "Gewinner", "Augen Re : Kontra", "Ansagen", "Sonderpunkte", "Spieler1"};
+    for (int spalte = 0; spalte <= sitz1; ++spalte)
+        EXPECT_EQ(t.horizontalHeaderItem(spalte)->text(), QString::fromUtf8(kopf[spalte])) << spalte;
+    EXPECT_EQ(t.item(0, 0)->text(), QStringLiteral("Normalspiel"));
+    EXPECT_EQ(t.item(0, 2)->text(), QStringLiteral("151 : 89"));
+    EXPECT_EQ(t.item(0, 4)->text(), QStringLiteral("Doppelkopf (Re), Fuchs gefangen (Kontra)"));
+    EXPECT_EQ(t.item(1, 0)->text(), QString());
+    EXPECT_EQ(t.item(0, sitz1 + 2)->text(), QStringLiteral("2"));
+    EXPECT_EQ(t.item(1, sitz1 + 1)->text(), QStringLiteral("9"));
     EXPECT_EQ(t.verticalHeaderItem(2)->text(), QStringLiteral("Summe"));
-    EXPECT_EQ(t.item(2, 1)->text(), QStringLiteral("9"));
+    EXPECT_EQ(t.item(2, sitz1 + 1)->text(), QStringLiteral("9"));
     EXPECT_EQ(zettel.endzeile(), QStringLiteral("Partieende nach 24 Spielen"));
-    zettel.resize(520, 260);
     testhilfe::bildAblegen(zettel, QStringLiteral("spielzettel"), true);
 
     EXPECT_EQ(table::partieendeZeile(1, 30, 24), "Partieende bei Überschreiten von 30 Punkten");
@@ -147,6 +160,30 @@ TEST(Dialoge, StichbetrachterBlaettertUndNenntAnsagen) {
     betrachter.setzeStiche(spiel, {spiel.stiche.back()}, 0);
     EXPECT_EQ(betrachter.anzahl(), 1);
     EXPECT_TRUE(betrachter.beschreibung().startsWith(QStringLiteral("2. Stich")));
+}
+
+// The pile of the manual deal: cards large enough to read their corners, a suit's
+// row across the whole panel.
+TEST(Dialoge, VerteilungZeigtDenStapelLesbar) {
+    table::Kartenbilder bilder;
+    engine::SeedZufall zufall(1);
+    ProSitz<std::string> namen;
+    for (const Sitz s : alleSitze) namen[s] = "Spieler" + std::to_string(s.nr());
+    table::Verteilungsdialog dialog(bilder, 48, false, namen, zufall);
+    dialog.show();
+    QApplication::processEvents();
+    const table::Kartenfeld& stapel = *dialog.stapelfeld();
+    const QRect erste = stapel.kartenrechteck(0);
+    EXPECT_GE(erste.height(), 80);
+    EXPECT_GE(erste.width(), 50);
+    // The twelve cards of the first row reach across the panel, each with more than its corner showing.
+    QRect letzte = erste;
+    for (std::size_t i = 1; i < 12; ++i) {
+        EXPECT_GE(stapel.kartenrechteck(i).left() - stapel.kartenrechteck(i - 1).left(), erste.width() * 55 / 100) << i;
+        letzte = stapel.kartenrechteck(i);
+    }
+    EXPECT_GE(letzte.right(), stapel.width() * 85 / 100);
+    testhilfe::bildAblegen(dialog, QStringLiteral("verteilung-leer"));
 }
 
 }  // namespace

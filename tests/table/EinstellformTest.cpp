@@ -3,7 +3,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QLabel>
+#include <QTest>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -22,6 +24,8 @@
 #include "settings/Optionsdatei.h"
 #include "table/Einstellelemente.h"
 #include "table/Einstellform.h"
+#include "table/Regelvorlagen.h"
+#include "table/Tempostufen.h"
 
 namespace {
 
@@ -80,6 +84,7 @@ TEST_F(EinstellformTest, JedeGeaenderteOptionErreichtDieDateiNurMitSpeichernJn) 
         std::map<std::string, int> erwartet;
         for (const std::string_view schluessel : settings::leseschluessel()) {
             if (schluessel == "Joker") continue;  // "Zweite schlägt Erste" takes it away: see the interlock test
+            if (schluessel == "Animation") continue;  // one list with the pace: see the Tempo test
             QWidget* w = form.findChild<QWidget*>(QString::fromUtf8(schluessel.data(), static_cast<qsizetype>(schluessel.size())));
             ASSERT_NE(w, nullptr) << schluessel;
             erwartet[std::string(schluessel)] = aendern(w);
@@ -148,8 +153,13 @@ TEST_F(EinstellformTest, ZweiteSchlaegtErsteNimmtDenJoker) {
 
 TEST_F(EinstellformTest, ExportUndImportStellenAlleWerteWiederHer) {
     table::Einstellform form(Einstellungen{}, {}, umgebung());
-    for (const std::string_view schluessel : settings::leseschluessel())
+    for (const std::string_view schluessel : settings::leseschluessel()) {
+        if (schluessel == "Animation") {  // "Aus" in the pace list
+            form.findChild<QComboBox*>(QStringLiteral("Tempo"))->setCurrentIndex(0);
+            continue;
+        }
         aendern(form.findChild<QWidget*>(QString::fromUtf8(schluessel.data(), static_cast<qsizetype>(schluessel.size()))));
+    }
     for (int sitz = 1; sitz <= 4; ++sitz) {
         form.findChild<QLineEdit*>(QStringLiteral("Name%1").arg(sitz))->setText(QStringLiteral("Mäx, der %1.").arg(sitz));  // blanks around a value are not kept by the format
         aendern(form.findChild<QComboBox*>(QStringLiteral("charakter%1").arg(sitz)));
@@ -312,8 +322,8 @@ TEST_F(EinstellformTest, BilderDerReiter) {
 
 TEST(Dateiwahl, FilterUndDialog) {
     const struct { const char* klassisch; const char* qt; } filter[] = {
-        {"Doppelkopf-INI-Datei (*.dki)|*.dki|Alle Dateien(*.*)|*.*", "Doppelkopf-INI-Datei (*.dki);;Alle Dateien(*.*)"},
-        {"Doppelkopf-Partie (*.DKP)|*.dkp|Alle Dateien (*.*)|*.*", "Doppelkopf-Partie (*.DKP);;Alle Dateien (*.*)"},
+        {"Doppelkopf-INI-Datei (*.dki)|*.dki|Alle Dateien(*.*)|*.*", "Doppelkopf-INI-Datei (*.dki *.DKI);;Alle Dateien(*.*)"},
+        {"Doppelkopf-Partie (*.DKP)|*.dkp|Alle Dateien (*.*)|*.*", "Doppelkopf-Partie (*.DKP *.dkp);;Alle Dateien (*.*)"},
     };
     for (const auto& f : filter) EXPECT_EQ(table::qtFilter(f.klassisch), QString::fromUtf8(f.qt));
 
@@ -335,8 +345,150 @@ TEST(Dateiwahl, FilterUndDialog) {
                   "Doppelkopf-Partie (*.dkp)|*.dkp|Alle Dateien(*.*)|*.*", "dkp"});
     EXPECT_TRUE(gewaehlt.isEmpty());
     EXPECT_EQ(titel, QStringLiteral("Doppelkopf-Partie speichern"));
-    EXPECT_EQ(filterListe, (QStringList{QStringLiteral("Doppelkopf-Partie (*.dkp)"), QStringLiteral("Alle Dateien(*.*)")}));
+    EXPECT_EQ(filterListe, (QStringList{QStringLiteral("Doppelkopf-Partie (*.dkp *.DKP)"), QStringLiteral("Alle Dateien(*.*)")}));
     EXPECT_EQ(endung, QStringLiteral("dkp"));
 }
 
+// Files named in either case are offered, whichever case the filter text uses.
+TEST(Dateiwahl, EndungInJederSchreibweise) {
+    QTemporaryDir ordner;
+    for (const char* name : {"klein.dkp", "GROSS.DKP", "anders.txt"}) {
+        QFile f(ordner.filePath(QString::fromLatin1(name)));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    }
+    for (const bool laden : {true, false}) {
+        QStringList gezeigt;
+        testhilfe::modalBeantworten([&](QWidget* w) {
+            auto* d = qobject_cast<QFileDialog*>(w);
+            if (!d) return;
+            auto* modell = d->findChild<QFileSystemModel*>();
+            const QModelIndex wurzel = modell->index(ordner.path());
+            if (!QTest::qWaitFor([&] { return modell->rowCount(wurzel) > 0; }, 5000)) return d->reject();
+            // Let the proxy settle: a file the filter refuses is hidden, not removed.
+            QTest::qWait(50);
+            for (int i = 0; i < modell->rowCount(wurzel); ++i) {
+                const QModelIndex index = modell->index(i, 0, wurzel);
+                if (!(modell->flags(index) & Qt::ItemIsEnabled)) continue;
+                gezeigt << modell->fileName(index);
+            }
+            d->reject();
+        });
+        table::Dateidialoge dialoge;
+        const table::Dateifrage frage{QStringLiteral("Titel"), ordner.path(),
+                                      laden ? "Doppelkopf-Partie (*.DKP)|*.dkp|Alle Dateien (*.*)|*.*"
+                                            : "Doppelkopf-Partie (*.dkp)|*.dkp|Alle Dateien(*.*)|*.*",
+                                      "dkp"};
+        laden ? dialoge.oeffnen(nullptr, frage) : dialoge.speichern(nullptr, frage);
+        gezeigt.sort();
+        EXPECT_EQ(gezeigt, (QStringList{QStringLiteral("GROSS.DKP"), QStringLiteral("klein.dkp")})) << laden;
+    }
+}
+
 }  // namespace
+
+namespace {
+
+// Chooses a preset as a person does: from the list.
+void vorlageWaehlen(table::Einstellform& form, const QString& name) {
+    auto* liste = form.findChild<QComboBox*>(QStringLiteral("regelvorlage"));
+    const int i = liste->findText(name);
+    ASSERT_GE(i, 0) << name.toStdString();
+    liste->setCurrentIndex(i);
+    emit liste->activated(i);
+}
+
+QString gezeigteVorlage(table::Einstellform& form) {
+    return form.findChild<QComboBox*>(QStringLiteral("regelvorlage"))->currentText();
+}
+
+}  // namespace
+
+TEST_F(EinstellformTest, RegelvorlagenSetzenRegelnUndWerdenErkannt) {
+    Einstellungen e;
+    e.regeln.joker = -1;  // a preset with "Zweite schlägt Erste" takes the Joker away
+    table::Einstellform form(e, {}, umgebung());
+    EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("(eigene Auswahl)"));
+
+    for (const table::Regelvorlage& v : table::festeVorlagen()) {
+        vorlageWaehlen(form, QString::fromStdString(v.name));
+        EXPECT_TRUE(table::passt(form.einstellungen().regeln, v)) << v.name;
+        EXPECT_EQ(gezeigteVorlage(form), QString::fromStdString(v.name));
+        // Names and display options stay as they were.
+        EXPECT_EQ(form.einstellungen().namen, e.namen);
+        EXPECT_EQ(form.einstellungen().kartenbild, e.kartenbild);
+    }
+    EXPECT_TRUE(form.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"))->isEnabled());
+
+    // Turnierregeln: the second Dolle beats the first, so the Joker is off and greyed; with
+    // "Erste schlägt Zweite" it can be ticked again, which leaves the preset.
+    vorlageWaehlen(form, QStringLiteral("Turnierregeln"));
+    EXPECT_EQ(form.einstellungen().regeln.herzZehn, 0);
+    auto* joker = form.findChild<QCheckBox*>(QStringLiteral("Joker"));
+    EXPECT_FALSE(joker->isEnabled());
+    EXPECT_FALSE(joker->isChecked());
+    for (auto* k : form.findChild<QWidget*>(QStringLiteral("HerzZehn"))->findChildren<QRadioButton*>())
+        if (k->text() == QStringLiteral("Erste schlägt Zweite")) k->click();
+    joker->setChecked(true);
+    EXPECT_EQ(form.einstellungen().regeln.herzZehn, -1);
+    EXPECT_EQ(form.einstellungen().regeln.joker, -1);
+    EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("(eigene Auswahl)"));
+
+    // Kept as house rules, they are offered and recognised from then on, in a new dialog too.
+    form.findChild<QPushButton*>(QStringLiteral("hausregeln_merken"))->click();
+    EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("Hausregeln (eigene)"));
+    const engine::RegelOptionen eigene = form.einstellungen().regeln;
+    table::Einstellform neu(Einstellungen{}, {}, umgebung());
+    vorlageWaehlen(neu, QStringLiteral("Hausregeln (eigene)"));
+    EXPECT_EQ(neu.einstellungen().regeln, eigene);
+    EXPECT_EQ(neu.einstellungen().regeln.joker, -1);
+    EXPECT_TRUE(neu.findChild<QCheckBox*>(QStringLiteral("Joker"))->isEnabled());
+}
+
+TEST(Regelvorlagen, HausregelnAlsText) {
+    engine::RegelOptionen r;
+    r.kontra = 3;
+    r.joker = -1;
+    const table::Regelvorlage v = table::hausregeln(r);
+    EXPECT_EQ(table::anwenden({}, table::hausregelnAusText(table::hausregelnText(v))), r);
+    // What cannot be read is left out; the rest still counts.
+    const table::Regelvorlage kaputt = table::hausregelnAusText("Kontra=2;Unbekannt=1;Limit=x;;=;Joker=-1");
+    EXPECT_EQ(kaputt.werte, (std::vector<std::pair<std::string, int>>{{"Kontra", 2}, {"Joker", -1}}));
+    // A stored 1 is no switched-on rule, as in the game.
+    engine::RegelOptionen eins;
+    eins.joker = 1;
+    EXPECT_FALSE(table::passt(eins, table::hausregeln(r)));
+    EXPECT_TRUE(table::passt(eins, table::hausregeln(engine::RegelOptionen{})));
+}
+
+// "Tempo": off is "Animation" 0; a pace is kept in the per-user store, and survives switching off.
+TEST_F(EinstellformTest, TempoIstAnimationUndGeschwindigkeit) {
+    table::Benutzereinstellungen b;
+    b.tempo = 3;
+    table::Einstellform form(Einstellungen{}, b, umgebung());
+    auto* tempo = form.findChild<QComboBox*>(QStringLiteral("Tempo"));
+    QStringList stufen;
+    for (int i = 0; i < tempo->count(); ++i) stufen << tempo->itemText(i);
+    EXPECT_EQ(stufen, (QStringList{QStringLiteral("Aus (ohne Kartenbewegung)"), QStringLiteral("Schnell"),
+                                   QStringLiteral("Normal"), QStringLiteral("Langsam")}));
+    EXPECT_EQ(tempo->currentText(), QStringLiteral("Langsam"));
+    const struct { int index; int animation; int gespeichert; } zeilen[] = {{0, 0, 3}, {1, -1, 1}, {2, -1, 2}, {0, 0, 2}};
+    for (const auto& z : zeilen) {
+        tempo->setCurrentIndex(z.index);
+        EXPECT_EQ(form.einstellungen().animation, z.animation) << z.index;
+        EXPECT_EQ(form.benutzer().tempo, z.gespeichert) << z.index;
+    }
+    form.accept();
+    EXPECT_EQ(table::benutzereinstellungenLesen(speicher_).tempo, 2);
+    Einstellungen aus;
+    aus.animation = 0;
+    table::Einstellform wieder(aus, table::benutzereinstellungenLesen(speicher_), umgebung());
+    EXPECT_EQ(wieder.findChild<QComboBox*>(QStringLiteral("Tempo"))->currentIndex(), 0);
+    // Fast is never slower than the table always was.
+    const table::Tempo normal = table::tempoFuer(table::TempoNormal), schnell = table::tempoFuer(table::TempoSchnell);
+    EXPECT_LE(schnell.karte, 550);
+    EXPECT_LE(schnell.stich, 1100);
+    EXPECT_LE(schnell.flug, 260);
+    EXPECT_LE(schnell.einsammeln, 320);
+    EXPECT_LT(normal.karte, table::tempoFuer(table::TempoLangsam).karte);
+    EXPECT_EQ(table::tempoFuer(table::TempoAus).flug, 0);
+}

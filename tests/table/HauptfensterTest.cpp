@@ -25,7 +25,7 @@ TEST(Hauptfenster, MenueeintraegeMitIhrenTexten) {
         {"m_einstellungen", "&Einstellungen..."},
         {"m_vollbild", "&Vollbild"},
         {"m_spielregeln", "&Spielregeln"},
-        {"m_netzprotokoll", "&Netzprotokoll zeigen"},
+        {"mnuSendebuffer", "&Netzprotokoll zeigen"},
         {"m_msgboxen_zeigen", nullptr},
     };
     for (const auto& f : faelle) {

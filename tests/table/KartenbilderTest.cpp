@@ -124,6 +124,25 @@ TEST(Kartenbilder, BilderWerdenProGroesseUndPixeldichteGemerkt) {
     EXPECT_NE(bilder.rueckseite(1, g, 1.0).cacheKey(), bilder.rueckseite(2, g, 1.0).cacheKey());
 }
 
+// A window resized again and again: only the sizes drawn last stay, the ones in
+// use among them, and a deck change starts afresh.
+TEST(Kartenbilder, NurDieZuletztGezeichnetenGroessenBleiben) {
+    table::Kartenbilder bilder(QStringList{});
+    const int code = kartencode(Kreuz, Dame);
+    const QSizeF tisch(69, 100);
+    const qint64 tischbild = bilder.vorderseite(code, tisch, 1.0).cacheKey();
+    for (int i = 0; i < 40; ++i) {
+        bilder.vorderseite(code, QSizeF(40 + i, 60 + i), 1.0);
+        bilder.rueckseite(5, QSizeF(40 + i, 60 + i) * 0.6, 1.0);
+        // The table's own size is drawn on every repaint, so it is never the oldest.
+        EXPECT_EQ(bilder.vorderseite(code, tisch, 1.0).cacheKey(), tischbild) << i;
+        EXPECT_LE(bilder.gecachteGroessen(), table::Kartenbilder::MaxGroessen) << i;
+    }
+    EXPECT_LE(bilder.gecachteBilder(), table::Kartenbilder::MaxGroessen);
+    bilder.setzeKartenbild(2);
+    EXPECT_EQ(bilder.gecachteGroessen(), 0);
+}
+
 TEST(Kartenmaler, RueckseitenNummern) {
     const std::pair<int, int> faelle[] = {{1, 1}, {5, 5}, {8, 8}, {9, 1}, {0, 8}, {-1, 7}, {17, 1}};
     for (const auto& [gespeichert, gezeichnet] : faelle) EXPECT_EQ(table::rueckseiteNummer(gespeichert), gezeichnet) << gespeichert;

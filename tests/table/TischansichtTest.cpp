@@ -1,5 +1,6 @@
 #include <QDir>
 #include <QSignalSpy>
+#include <functional>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -186,6 +187,92 @@ TEST_F(TischansichtTest, TischBildMitFranzoesischenUndDeutschenKarten) {
         // Seat 1 has not played yet: its place in the trick is bare felt.
         EXPECT_TRUE(gleich(l.stichplatz(Sitz(1)).mitte + QPointF(0, l.kartengroesse().height() * 0.45)));
     }
+}
+
+// Share of the pixels in `feld` for which `passt` holds.
+double anteil(const QImage& bild, const QRectF& feld, const std::function<bool(QColor)>& passt) {
+    int n = 0, ja = 0;
+    for (int y = static_cast<int>(feld.top()); y < static_cast<int>(feld.bottom()); ++y)
+        for (int x = static_cast<int>(feld.left()); x < static_cast<int>(feld.right()); ++x, ++n)
+            ja += passt(bild.pixelColor(x, y));
+    return n ? static_cast<double>(ja) / n : 0;
+}
+
+bool golden(QColor c) { return c.red() > 200 && c.green() > 140 && c.blue() < 90; }
+bool rot(QColor c) { return c.red() > 150 && c.green() < 90 && c.blue() < 90; }
+bool blau(QColor c) { return c.blue() > 130 && c.red() < 90; }
+
+// While the full trick lies, its winning card is framed in gold; the others are not.
+TEST_F(TischansichtTest, GewinnerDesVollenStichsIstMarkiert) {
+    const int as = testhilfe::positionVon(spiel_, Sitz(1), k(Pik, As));
+    karteSpielen(spiel_, as);
+    spiel_.stiche.push_back({spiel_.stich.aufspieler, {}, {}, stichGewinner(spiel_), 0});
+    tisch_.setzeKartenwahl(false);
+    tisch_.neuZeichnen();
+    const table::Tischlayout l = tisch_.layout();
+    // A strip along the top edge of a trick card, inside it.
+    auto oberkante = [&](Sitz s) {
+        const table::Kartenplatz p = l.stichplatz(s);
+        const QSizeF g = l.kartengroesse();
+        return QRectF(p.mitte - QPointF(g.width() * 0.3, g.height() / 2 - 1), QSizeF(g.width() * 0.6, 2));
+    };
+    for (const bool voll : {false, true}) {
+        spiel_.ablauf.phase = voll ? Spielphase::StichVoll : Spielphase::Kartenspiel;
+        const QImage bild = tisch_.grab().toImage();
+        testhilfe::bildAblegen(tisch_, QStringLiteral("stich-gewinner-%1").arg(voll));
+        EXPECT_EQ(tisch_.stichgewinnerKarte(), voll ? as : 0);
+        EXPECT_EQ(anteil(bild, oberkante(Sitz(1)), golden) > 0.5, voll);
+        for (const Sitz s : {Sitz(2), Sitz(3), Sitz(4)}) EXPECT_LT(anteil(bild, oberkante(s), golden), 0.1) << s.nr();
+    }
+}
+
+// Re, Kontra and a limit stay beside the seats that announced them, in their side's colour;
+// the game corner names game, number, dealer and Vorhand.
+TEST_F(TischansichtTest, AnsagenUndSpieleckeAmTisch) {
+    spiel_.partei[Sitz(2)] = ParteiKontra;
+    spiel_.partei[Sitz(3)] = ParteiRe;
+    spiel_.ablauf.phase = Spielphase::Kartenspiel;
+    spiel_.partie.spielNr = 5;
+    const QImage ohne = tisch_.grab().toImage();
+    spiel_.reAngesagt[Sitz(3)] = true;
+    spiel_.limitSitz = Sitz(3);
+    spiel_.limitCode = Keine90;
+    spiel_.kontraAngesagt[Sitz(2)] = true;
+    const QImage mit = tisch_.grab().toImage();
+    testhilfe::bildAblegen(tisch_, QStringLiteral("tisch-ansagen"));
+    const table::Tischlayout l = tisch_.layout();
+    const QRectF re = l.ansageschild(Sitz(3), 0), limit = l.ansageschild(Sitz(3), 1), kontra = l.ansageschild(Sitz(2), 0);
+    EXPECT_EQ(anteil(ohne, re, rot), 0);
+    EXPECT_GT(anteil(mit, re, rot), 0.05);
+    EXPECT_GT(anteil(mit, limit, rot), 0.05);
+    EXPECT_GT(anteil(mit, kontra, blau), 0.05);
+    EXPECT_EQ(anteil(mit, l.ansageschild(Sitz(2), 1), blau), 0);
+    // The corner shows its lines only once a game is under way.
+    EXPECT_EQ(ohne.copy(l.spielecke().toRect()), mit.copy(l.spielecke().toRect()));
+    spiel_.ablauf.phase = Spielphase::Geben;
+    EXPECT_NE(tisch_.grab().toImage().copy(l.spielecke().toRect()), mit.copy(l.spielecke().toRect()));
+}
+
+// A window forced below the table's minimum (a window manager that ignores it)
+// shows the whole table smaller instead of cutting it off, and clicks still hit.
+TEST_F(TischansichtTest, ZuKleinWirdVerkleinertNichtAbgeschnitten) {
+    tisch_.resize(400, 300);
+    const qreal m = tisch_.massstab();
+    EXPECT_LT(m, 1);
+    const table::Tischlayout l = tisch_.layout();
+    EXPECT_GE(l.flaeche().width(), tisch_.minimumSizeHint().width() - 0.5);
+    EXPECT_GE(l.flaeche().height(), tisch_.minimumSizeHint().height() - 0.5);
+    const QRectF fenster(QPointF(0, 0), QSizeF(tisch_.size()) + QSizeF(0.5, 0.5));
+    for (const Sitz s : {Sitz(2), Sitz(3), Sitz(4)})
+        for (const auto& p : l.verdeckteHand(s, 12))
+            EXPECT_TRUE(fenster.contains(QRectF(table::umriss(p, l.kleineKarte()).boundingRect().topLeft() * m,
+                                                table::umriss(p, l.kleineKarte()).boundingRect().bottomRight() * m)))
+                << s.nr();
+    testhilfe::bildAblegen(tisch_, QStringLiteral("tisch-400x300"));
+    QSignalSpy gewaehlt(&tisch_, &table::Tischansicht::karteGewaehlt);
+    QTest::mouseClick(&tisch_, Qt::LeftButton, {}, tisch_.kartenmitte(karteAn(7)).toPoint());
+    ASSERT_EQ(gewaehlt.count(), 1);
+    EXPECT_EQ(gewaehlt.first().first().toInt(), karteAn(7));
 }
 
 }  // namespace

@@ -11,8 +11,9 @@ using table::Tischlayout;
 struct Teil { std::string name; QPolygonF umriss; };
 
 // Every piece on a full table: the own fan (lifted as high as a selected card
-// goes), the three face-down hands, a full trick, name plates and party pictures.
-std::vector<std::vector<Teil>> gruppen(const Tischlayout& l, int handgroesse) {
+// goes), the three other hands (face down or open), a full trick, name plates, party
+// pictures, two announcements per seat and the game corner.
+std::vector<std::vector<Teil>> gruppen(const Tischlayout& l, int handgroesse, bool offen) {
     std::vector<std::vector<Teil>> g(4);
     int i = 0;
     for (Kartenplatz p : l.hand(handgroesse)) {
@@ -21,16 +22,19 @@ std::vector<std::vector<Teil>> gruppen(const Tischlayout& l, int handgroesse) {
     }
     for (const Sitz s : {Sitz(2), Sitz(3), Sitz(4)}) {
         i = 0;
-        for (const auto& p : l.verdeckteHand(s, handgroesse))
+        for (const auto& p : offen ? l.offeneHand(s, handgroesse) : l.verdeckteHand(s, handgroesse))
             g[1].push_back({"Sitz " + std::to_string(s.nr()) + " Karte " + std::to_string(++i),
-                            table::umriss(p, l.kleineKarte())});
+                            table::umriss(p, offen ? l.offeneKarte(s) : l.kleineKarte())});
     }
     for (const Sitz s : engine::alleSitze)
         g[2].push_back({"Stich " + std::to_string(s.nr()), table::umriss(l.stichplatz(s), l.kartengroesse())});
     for (const Sitz s : engine::alleSitze) {
         g[3].push_back({"Schild " + std::to_string(s.nr()), QPolygonF(l.namensschild(s))});
         g[3].push_back({"Parteibild " + std::to_string(s.nr()), QPolygonF(l.parteibild(s))});
+        for (int nr = 0; nr < 2; ++nr)
+            g[3].push_back({"Ansage " + std::to_string(s.nr()) + "/" + std::to_string(nr), QPolygonF(l.ansageschild(s, nr))});
     }
+    g[3].push_back({"Spielecke", QPolygonF(l.spielecke())});
     return g;
 }
 
@@ -45,10 +49,11 @@ TEST(Tischlayout, AllesLiegtImFensterUndNichtsUeberlappt) {
     for (const auto& f : Flaechen) {
         const QRectF fenster(0, 0, f.breite, f.hoehe);
         const Tischlayout l(fenster.size(), f.seitenverhaeltnis);
-        for (const int handgroesse : {12, 10, 1}) {
-            const auto g = gruppen(l, handgroesse);
+        for (const int handgroesse : {12, 10, 1})
+        for (const bool offen : {false, true}) {
+            const auto g = gruppen(l, handgroesse, offen);
             const std::string fall = std::to_string(f.breite) + "x" + std::to_string(f.hoehe) + " Hand " +
-                                     std::to_string(handgroesse) + ": ";
+                                     std::to_string(handgroesse) + (offen ? " offen: " : ": ");
             for (const auto& gruppe : g)
                 for (const auto& teil : gruppe)
                     EXPECT_TRUE(fenster.adjusted(-0.5, -0.5, 0.5, 0.5).contains(teil.umriss.boundingRect()))
@@ -76,6 +81,9 @@ TEST(Tischlayout, JedeHandkarteBleibtLesbar) {
         // The trick cards are as large as the own cards, the backs smaller.
         EXPECT_LT(l.kleineKarte().height(), l.kartengroesse().height());
         EXPECT_GE(l.kartengroesse().height(), 0.2 * std::min<double>(f.hoehe, f.breite * 0.75)) << f.breite << "x" << f.hoehe;
+        // Five lines of small print fit into the game corner.
+        EXPECT_GE(l.spielecke().height(), 5 * 11) << f.breite << "x" << f.hoehe;
+        EXPECT_GE(l.spielecke().width(), 180) << f.breite << "x" << f.hoehe;
     }
 }
 

@@ -493,4 +493,110 @@ TEST_F(TischprogrammTest, EinstellungenAusDemMenue) {
     EXPECT_EQ(uebernommen.count(), 1);  // a reset takes nothing over
 }
 
+// "&Ende" and closing the window during a Partie ask: save (and then end), end, or stay.
+// Before the first card there is nothing to lose and nothing is asked.
+TEST_F(TischprogrammTest, BeendenFragtWaehrendDerPartie) {
+    const struct {
+        const char* knopf;   // nullptr: no question expected
+        bool fensterSchliessen;  // else "&Ende"
+        QString datei;       // answer of the save dialog
+        bool endet;
+    } faelle[] = {
+        {nullptr, false, {}, true},
+        {"&Abbrechen", false, {}, false},
+        {"&Abbrechen", true, {}, false},
+        {"&Beenden", true, {}, true},
+        {"&Speichern...", false, {}, false},  // the save dialog cancelled
+        {"&Speichern...", false, QStringLiteral("beim-beenden.dkp"), true},
+    };
+    for (const auto& f : faelle) {
+        Tisch t(ordner_.path());
+        t.steuerung.neuePartie();
+        if (f.knopf) ASSERT_NO_FATAL_FAILURE(spielenBis(t, [&] { return t.spiel().sticheGespielt >= 1; }));
+        else ASSERT_TRUE(warten([&] { return t.hfo.tisch().kartenwahl() || t.spiel().stich.anzahl > 0; }));
+        if (!f.datei.isEmpty()) t.wahl.antworten = {ordner_.filePath(f.datei)};
+        QSignalSpy ende(&t.hfo, &table::Hauptfenster::beendenGewuenscht);
+        QString frage;
+        int karten = -1;
+        antworten_ = [&](QWidget* w) {
+            auto* box = qobject_cast<QMessageBox*>(w);
+            if (!box || !f.knopf) return false;
+            frage = box->text();
+            karten = t.spiel().sticheGespielt * 4 + t.spiel().stich.anzahl;
+            for (QAbstractButton* b : box->buttons())
+                if (b->text() == QString::fromUtf8(f.knopf)) b->click();
+            return true;
+        };
+        f.fensterSchliessen ? (void)t.hfo.close() : t.hfo.endeAktion()->trigger();
+        antworten_ = nullptr;
+        EXPECT_EQ(frage.isEmpty(), f.knopf == nullptr) << f.knopf;
+        if (f.knopf) {
+            EXPECT_EQ(frage, QStringLiteral("Die Partie ist noch nicht zu Ende. Möchten Sie sie vor dem Beenden speichern?"));
+            // The game waited under the question.
+            EXPECT_EQ(karten, t.spiel().sticheGespielt * 4 + t.spiel().stich.anzahl);
+        }
+        EXPECT_EQ(ende.count(), f.endet ? 1 : 0) << f.knopf;
+        EXPECT_EQ(t.hfo.isVisible(), !f.endet) << f.knopf;
+        if (std::string_view(f.knopf ? f.knopf : "") == "&Speichern...") {
+            // The save dialog starts in the home folder while no folder was used yet.
+            ASSERT_EQ(t.wahl.fragen.size(), 1u);
+            EXPECT_EQ(t.wahl.fragen[0].ordner, QDir::homePath());
+        }
+        if (!f.datei.isEmpty()) {
+            savegame::Spielstand gelesen;
+            ASSERT_TRUE(savegame::PartieLaden(ordner_.filePath(f.datei), gelesen).ergebnis == savegame::Ergebnis::Erfolg);
+            EXPECT_EQ(gelesen.spiel.deck, t.spiel().deck);
+        }
+    }
+}
+
+// The running Partie is always in the automatic save: after every card, gone at the
+// end of the Partie; the welcome screen offers to resume it.
+TEST_F(TischprogrammTest, AutomatischeSicherungUndFortsetzen) {
+    const QString sicherung = ordner_.filePath(QStringLiteral("daten/letzte-partie.dkp"));
+    engine::Spiel gesichert;
+    {
+        Tisch t(ordner_.path());
+        t.programm.setzeSicherungsdatei(sicherung);
+        // A Partie of one game, so the resumed one ends soon.
+        settings::Einstellungen e = t.programm.einstellungen();
+        e.regeln.abrOption = 2;
+        e.regeln.endeNach = 1;
+        t.programm.EinstUebernehmen(e, t.programm.benutzer());
+        t.steuerung.neuePartie();
+        ASSERT_NO_FATAL_FAILURE(spielenBis(t, [&] { return t.spiel().sticheGespielt >= 2 && t.spiel().stich.anzahl >= 1; }));
+        savegame::Spielstand gelesen;
+        ASSERT_TRUE(savegame::PartieLaden(sicherung, gelesen).ergebnis == savegame::Ergebnis::Erfolg);
+        EXPECT_EQ(gelesen.spiel.stiche, t.spiel().stiche);
+        EXPECT_EQ(gelesen.spiel.stich, t.spiel().stich);
+        gesichert = t.spiel();
+    }
+    // The next start: "Letzte Partie fortsetzen" brings the table back as it was.
+    Tisch t(ordner_.path(), 99);
+    t.programm.setzeSicherungsdatei(sicherung);
+    settings::Einstellungen e = t.programm.einstellungen();
+    e.willkommen = -1;
+    t.programm.EinstUebernehmen(e, t.programm.benutzer());
+    bool angeboten = false;
+    antworten_ = [&](QWidget* w) {
+        auto* willkommen = qobject_cast<table::Willkommen*>(w);
+        if (!willkommen) return false;
+        angeboten = willkommen->fortsetzenKnopf()->isVisible();
+        testhilfe::bildAblegen(*willkommen, QStringLiteral("willkommen-fortsetzen"));
+        willkommen->fortsetzenKnopf()->click();
+        return true;
+    };
+    t.programm.starten();
+    antworten_ = nullptr;
+    EXPECT_TRUE(angeboten);
+    ASSERT_TRUE(warten([&] { return t.hfo.tisch().kartenwahl(); }));
+    EXPECT_EQ(t.spiel().deck, gesichert.deck);
+    EXPECT_EQ(t.spiel().stiche, gesichert.stiche);
+    // Played to its end (its rules end it after this game), nothing is kept.
+    QSignalSpy beendet(&t.steuerung, &table::Tischsteuerung::partieBeendet);
+    t.hfo.automatikAktion()->trigger();
+    ASSERT_TRUE(beendet.wait(20000));
+    EXPECT_FALSE(QFile::exists(sicherung));
+}
+
 }  // namespace

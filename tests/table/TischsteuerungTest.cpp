@@ -1,6 +1,8 @@
 #include <QAbstractButton>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QPushButton>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTimer>
@@ -10,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "Bildablage.h"
+#include "Modal.h"
 #include "QtAusgabe.h"
 #include "engine/Stichspiel.h"
 #include "engine/Zufall.h"
@@ -32,10 +35,15 @@ struct Boxenbeantworter {
     std::vector<QString> falscheKarte;
     std::vector<QString> spielende;
     std::vector<std::vector<QString>> spielzettel;  // rows of the sheet, cells joined
+    std::vector<QString> statusBeiSonderpunkt;  // the status line behind each special point box
     int andere = 0;
+    const table::Hauptfenster* hfo = nullptr;
 
     void beantworten(QWidget* w) {
-        if (auto* box = qobject_cast<QMessageBox*>(w)) {
+        if (auto* meldung = qobject_cast<table::Meldungsdialog*>(w)) {
+            if (meldung->windowTitle() == QStringLiteral("Sonderpunkt!") && hfo) statusBeiSonderpunkt.push_back(hfo->status());
+            meldung->accept();
+        } else if (auto* box = qobject_cast<QMessageBox*>(w)) {
             if (box->windowTitle() == QStringLiteral("Falsche Karte!")) falscheKarte.push_back(box->text());
             else ++andere;
             QAbstractButton* nein = box->button(QMessageBox::No);
@@ -54,7 +62,11 @@ struct Boxenbeantworter {
             }
             spielzettel.push_back(zeilen);
             testhilfe::bildAblegen(*w, QStringLiteral("spielzettel-echt"));
-            qobject_cast<QDialog*>(w)->reject();
+            // Closed with its own button.
+            auto* knoepfe = w->findChild<QDialogButtonBox*>();
+            ASSERT_NE(knoepfe, nullptr);
+            ASSERT_NE(knoepfe->button(QDialogButtonBox::Close), nullptr);
+            knoepfe->button(QDialogButtonBox::Close)->click();
         } else if (auto* dialog = qobject_cast<QDialog*>(w)) {
             ++andere;
             dialog->reject();
@@ -71,6 +83,7 @@ protected:
         steuerung_.setzeTempo({0, 0});
         hfo_.resize(1024, 768);
         hfo_.show();
+        boxen_.hfo = &hfo_;
         QObject::connect(&pumpe_, &QTimer::timeout, [this] {
             if (QWidget* modal = QApplication::activeModalWidget()) boxen_.beantworten(modal);
         });
@@ -148,10 +161,22 @@ TEST_F(TischsteuerungTest, GanzesSpielMitGeklicktenKartenVonSitz1) {
     EXPECT_EQ(steuerung_.spielzettelZeilen().front(), gespielt.ergebnis.punkte);
     hfo_.spielzettelAktion()->trigger();
     ASSERT_EQ(boxen_.spielzettel.size(), 1u);
-    const auto& p = gespielt.ergebnis.punkte;
-    const QString zeile = QStringLiteral("%1 %2 %3 %4").arg(p[Sitz(1)]).arg(p[Sitz(2)]).arg(p[Sitz(3)]).arg(p[Sitz(4)]);
-    EXPECT_EQ(boxen_.spielzettel.front().front(), zeile);
-    EXPECT_EQ(boxen_.spielzettel.front().back(), zeile);  // the totals after one game
+    // Per game what was played, who won, the Augen, announcements and special points, then the points.
+    const engine::Spielergebnis& e = gespielt.ergebnis;
+    const auto& p = e.punkte;
+    const QString punkte = QStringLiteral("%1 %2 %3 %4").arg(p[Sitz(1)]).arg(p[Sitz(2)]).arg(p[Sitz(3)]).arg(p[Sitz(4)]);
+    const QString angaben = QString::fromStdString(table::spielart(gespielt, true, true)) + QLatin1Char(' ') +
+                            (e.gewinner == engine::ParteiRe ? QStringLiteral("Re") : QStringLiteral("Kontra")) +
+                            QStringLiteral(" %1 : %2 ").arg(e.augenRe).arg(e.augenKontra);
+    ASSERT_EQ(boxen_.spielzettel.front().size(), 2u);
+    EXPECT_TRUE(boxen_.spielzettel.front().front().startsWith(angaben)) << boxen_.spielzettel.front().front().toStdString();
+    EXPECT_TRUE(boxen_.spielzettel.front().front().endsWith(punkte));
+    EXPECT_EQ(boxen_.spielzettel.front().back(), QStringLiteral("     ") + punkte);  // the totals after one game
+    for (const engine::Sonderpunkt& sp : gespielt.sonderpunkte)
+        EXPECT_TRUE(boxen_.spielzettel.front().front().contains(QString::fromStdString(sp.art)));
+    // A special point is shown while its full trick lies, and the status line says so.
+    EXPECT_FALSE(boxen_.statusBeiSonderpunkt.empty());
+    for (const QString& status : boxen_.statusBeiSonderpunkt) EXPECT_EQ(status, QStringLiteral("Stich komplett... bitte warten"));
 
     // Re/Kontra up to and including the fifth trick, limits from the first card on.
     ASSERT_FALSE(menues.empty());
@@ -164,30 +189,89 @@ TEST_F(TischsteuerungTest, GanzesSpielMitGeklicktenKartenVonSitz1) {
         EXPECT_EQ(m.limits, frist && (m.sticheGespielt > 0 || m.kartenImStich > 0)) << m.sticheGespielt;
     }
 
-    // The party pictures are the computer players' indicator: unknown until a trick
-    // is taken, then what the table knows; seat 1 always knows its own party.
+    // The party pictures: seat 1 shows its own party from the first card on; every
+    // other seat what the table's indicator knows, and never a wrong party.
+    ASSERT_FALSE(gespielt.hochzeiter.has_value());
     for (const auto& m : menues) {
-        if (m.sticheGespielt == 0) {
-            EXPECT_EQ(m.parteibilder, unbekannteBilder());
-        } else {
-            EXPECT_EQ(m.parteibilder, m.zeigerBild) << m.sticheGespielt;
-            EXPECT_NE(m.parteibilder[Sitz(1)], unbekannteBilder()[Sitz(1)]) << m.sticheGespielt;
+        EXPECT_EQ(m.parteibilder[Sitz(1)], players::parteibild(Sitz(1), engine::seite(gespielt, Sitz(1)))) << m.sticheGespielt;
+        for (const Sitz s : {Sitz(2), Sitz(3), Sitz(4)}) {
+            const int bild = m.parteibilder[s];
+            EXPECT_TRUE(bild == unbekannteBilder()[s] || bild == players::parteibild(s, engine::seite(gespielt, s)))
+                << m.sticheGespielt << " " << s.nr();
+            if (m.zeigerBild[s] > 0) {
+                EXPECT_EQ(bild, m.zeigerBild[s]) << m.sticheGespielt << " " << s.nr();
+            }
         }
     }
 }
 
-TEST_F(TischsteuerungTest, AutomatikSpieltEinSpielZuEnde) {
+// Automatic play runs through games without anybody at the table: the game's
+// messages pass in the status line and the end box closes by itself.
+TEST_F(TischsteuerungTest, AutomatikWartetAufKeineBox) {
+    pumpe_.stop();
+    steuerung_.setzeTempo({0, 0, 0, 0, 60});  // the end box stays 60 ms
+    QStringList gesehen;
+    QWidget* offen = nullptr;
+    QTimer zuschauer;
+    QObject::connect(&zuschauer, &QTimer::timeout, [&] {
+        QWidget* w = QApplication::activeModalWidget();
+        if (w && w != offen) gesehen << w->windowTitle();
+        offen = w;
+    });
+    zuschauer.start(1);
     QSignalSpy gewertet(&steuerung_, &table::Tischsteuerung::spielGewertet);
     steuerung_.neuePartie();
     hfo_.automatikAktion()->trigger();
     EXPECT_EQ(hfo_.automatikAktion()->text(), QStringLiteral("&Automatik abbrechen"));
-    ASSERT_TRUE(gewertet.wait(60000));
-    EXPECT_EQ(steuerung_.letztesSpiel().stiche.size(), 12u);
-    EXPECT_TRUE(boxen_.falscheKarte.empty());
-    ASSERT_EQ(boxen_.spielende.size(), 1u);
-    EXPECT_EQ(boxen_.spielende.front(), QString::fromStdString(steuerung_.letztesSpiel().ergebnis.text));
+    ASSERT_TRUE(gewertet.wait(20000));
+    ASSERT_TRUE(gewertet.wait(20000));
+    zuschauer.stop();
+    pumpe_.start(2);
+    EXPECT_EQ(steuerung_.spielzettelZeilen().size(), 2u);
+    // Only the end boxes came, and went again by themselves.
+    EXPECT_EQ(gesehen, (QStringList{QStringLiteral("Spielergebnis"), QStringLiteral("Spielergebnis")}));
     hfo_.automatikAktion()->trigger();
     EXPECT_EQ(hfo_.automatikAktion()->text(), QStringLiteral(" &Automatisch spielen "));
+}
+
+// A new Partie over a running one needs a deliberate "Ja": Enter (a key held down
+// from the last box) or Escape keep the Partie, and the game waits under the question.
+TEST_F(TischsteuerungTest, NeuePartieNurNachBewussterAntwort) {
+    pumpe_.stop();
+    steuerung_.neuePartie();
+    hfo_.automatikAktion()->trigger();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return steuerung_.spiel().sticheGespielt >= 2; }, 20000));
+    const struct {
+        Qt::Key taste;
+        bool neu;
+    } faelle[] = {{Qt::Key_Return, false}, {Qt::Key_Escape, false}, {Qt::Key_Y, true}};
+    for (const auto& f : faelle) {
+        const engine::Spiel vorher = steuerung_.spiel();
+        QString frage;
+        bool gewartet = false;
+        testhilfe::modalBeantworten([&](QWidget* w) {
+            auto* box = qobject_cast<QMessageBox*>(w);
+            if (!box) return;
+            frage = box->text();
+            const int karten = steuerung_.spiel().sticheGespielt * 4 + steuerung_.spiel().stich.anzahl;
+            QTest::qWait(50);
+            gewartet = karten == steuerung_.spiel().sticheGespielt * 4 + steuerung_.spiel().stich.anzahl;
+            if (f.taste == Qt::Key_Y) box->button(QMessageBox::Yes)->click();
+            else QTest::keyClick(box, f.taste);
+        });
+        hfo_.neuePartieAktion()->trigger();
+        EXPECT_EQ(frage, QStringLiteral("Möchten Sie die laufende Partie abbrechen?"));
+        EXPECT_TRUE(gewartet) << f.taste;
+        if (f.neu) {
+            EXPECT_EQ(steuerung_.spiel().sticheGespielt, 0);
+            EXPECT_TRUE(steuerung_.spielzettelZeilen().empty());
+        } else {
+            EXPECT_EQ(steuerung_.spiel().deck, vorher.deck) << f.taste;
+            EXPECT_GE(steuerung_.spiel().sticheGespielt, vorher.sticheGespielt) << f.taste;
+        }
+    }
+    hfo_.automatikAktion()->trigger();
+    pumpe_.start(2);
 }
 
 // Reasoning boxes: with the switch on every rule that fires is shown, and the table

@@ -1,0 +1,21 @@
+#pragma once
+// The foyer's table side at the window: "open a table" hosts one at this window
+// and announces it with its free seats, "take a seat" joins the table offered,
+// going back to the foyer leaves the table here.
+namespace foyer {
+class Foyerprogramm;
+}
+namespace settings {
+class Benutzerspeicher;
+}
+namespace table {
+class Netzspiel;
+class Tischprogramm;
+}
+
+namespace app {
+
+void foyerTischVerbinden(foyer::Foyerprogramm& foyer, table::Netzspiel& netz, const table::Tischprogramm& programm,
+                         const settings::Benutzerspeicher& speicher);
+
+}  // namespace app

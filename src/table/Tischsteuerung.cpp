@@ -277,6 +277,7 @@ void Tischsteuerung::ablaufZuruecksetzen() {
 }
 
 void Tischsteuerung::neuePartie() {
+    begonnen_ = true;
     ablaufZuruecksetzen();
     zeilen_.clear();
     angaben_.clear();
@@ -289,6 +290,7 @@ void Tischsteuerung::neuePartie() {
 }
 
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
+    begonnen_ = true;
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
     protokoll_.vergessen();
@@ -335,6 +337,7 @@ void Tischsteuerung::dialogOffen(bool offen) {
 
 void Tischsteuerung::netzAnbinden(Netzanbindung* netz) {
     netz_ = netz;
+    begonnen_ = true;
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
     zeilen_.clear();
@@ -438,7 +441,7 @@ void Tischsteuerung::meldungenZeigen() {
 // the person, a timer or an animation.
 void Tischsteuerung::weiter() {
     netzBeschaeftigtMelden();
-    if (beschaeftigt_ || imDialog() || geplant_) return;
+    if (!begonnen_ || beschaeftigt_ || imDialog() || geplant_) return;
     if (!fremdeKarten_.empty()) {
         const auto [pos, sitz] = fremdeKarten_.front();
         fremdeKarten_.erase(fremdeKarten_.begin());

@@ -1,11 +1,13 @@
 #include "Fensterstart.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QTimer>
+#include <algorithm>
 #include <iostream>
 
 #include "Foyertisch.h"
@@ -37,12 +39,39 @@ namespace {
 
 bool wahr(int wert) { return wert != 0; }
 
+// For start-and-quit soaks: TRUMPONA_BEENDEN_NACH=ms ends the program through its
+// menu that long after the start, as a person would: close whatever box is open
+// (Escape), choose "&Ende" in the game menu, and there end without saving.
+void beendenNachUmgebung(table::Hauptfenster& hfo) {
+    bool gesetzt = false;
+    const int ms = qEnvironmentVariableIntValue("TRUMPONA_BEENDEN_NACH", &gesetzt);
+    if (!gesetzt) return;
+    auto* takt = new QTimer(&hfo);
+    takt->setInterval(50);
+    QObject::connect(takt, &QTimer::timeout, &hfo, [&hfo] {
+        if (QWidget* offen = QApplication::activeModalWidget()) {
+            auto* frage = qobject_cast<QMessageBox*>(offen);
+            const auto knoepfe = frage ? frage->buttons() : QList<QAbstractButton*>{};
+            const auto beenden = std::find_if(knoepfe.begin(), knoepfe.end(), [frage](QAbstractButton* k) {
+                return frage->buttonRole(k) == QMessageBox::DestructiveRole;
+            });
+            if (beenden != knoepfe.end()) (*beenden)->click();
+            else if (auto* dialog = qobject_cast<QDialog*>(offen)) dialog->reject();
+            else offen->close();
+            return;
+        }
+        hfo.endeAktion()->trigger();
+    });
+    QTimer::singleShot(std::max(ms, 0), takt, qOverload<>(&QTimer::start));
+}
+
 }  // namespace
 
 int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     QElapsedTimer uhr;
     uhr.start();
     const auto anwendung = anwendungStarten(argc, argv, false);
+    if (!anwendung) return 1;
     QScreen* schirm = QGuiApplication::primaryScreen();
     const QSize bildschirm = schirm ? schirm->size() : QSize(1024, 768);
     settings::Benutzerspeicher speicher(bildschirm.width());
@@ -123,6 +152,7 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
         // For measuring the start: TRUMPONA_STARTZEIT prints when the table first stood.
         if (qEnvironmentVariableIsSet("TRUMPONA_STARTZEIT"))
             QTimer::singleShot(0, [&] { std::cerr << "Tisch sichtbar nach " << uhr.elapsed() << " ms\n"; });
+        beendenNachUmgebung(hfo);
         // --host and --join open the window in that role; the name falls back to the last one used.
         const QString name = aufruf.name.empty() ? speicher.text(QStringLiteral("StartNick")) : QString::fromStdString(aufruf.name);
         bool amNetz = false;

@@ -278,6 +278,7 @@ void Tischsteuerung::ablaufZuruecksetzen() {
 
 void Tischsteuerung::neuePartie() {
     if (netz_ && netz_->nurWartend()) netz_ = nullptr;
+    begonnen_ = true;
     ablaufZuruecksetzen();
     zeilen_.clear();
     angaben_.clear();
@@ -291,6 +292,7 @@ void Tischsteuerung::neuePartie() {
 
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
     if (netz_ && netz_->nurWartend()) netz_ = nullptr;
+    begonnen_ = true;
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
     protokoll_.vergessen();
@@ -337,6 +339,7 @@ void Tischsteuerung::dialogOffen(bool offen) {
 
 void Tischsteuerung::netzAnbinden(Netzanbindung* netz) {
     netz_ = netz;
+    begonnen_ = true;
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
     zeilen_.clear();
@@ -440,7 +443,7 @@ void Tischsteuerung::meldungenZeigen() {
 // the person, a timer or an animation.
 void Tischsteuerung::weiter() {
     netzBeschaeftigtMelden();
-    if (beschaeftigt_ || imDialog() || geplant_) return;
+    if (!begonnen_ || beschaeftigt_ || imDialog() || geplant_) return;
     if (!fremdeKarten_.empty()) {
         const auto [pos, sitz] = fremdeKarten_.front();
         fremdeKarten_.erase(fremdeKarten_.begin());

@@ -13,6 +13,7 @@
 #include "Foyertisch.h"
 #include "Installation.h"
 #include "Oberflaeche.h"
+#include "foyer/Foyerfenster.h"
 #include "foyer/Foyerprogramm.h"
 #include "net/Namen.h"
 #include "engine/Kartentext.h"
@@ -133,11 +134,15 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
                 const auto fehler = net::namePruefen(name.toStdString());
                 return fehler ? QString::fromStdString(*fehler) : QString();
             });
-            foyerTischVerbinden(*foyerprogramm, netz, programm, speicher);
+            foyerTischVerbinden(*foyerprogramm, netz, programm);
         }
         foyerprogramm->oeffnen();
     };
     QObject::connect(hfo.foyerAktion(), &QAction::triggered, &hfo, foyerOeffnen);
+    // The program ends with its table window: the foyer closes too (and leaves the server).
+    QObject::connect(&hfo, &table::Hauptfenster::beendenGewuenscht, [&] {
+        if (foyerprogramm) foyerprogramm->fenster().close();
+    });
     // A guest whose table is lost may go back to the foyer: the program starts anew into it.
     netz.setzeFoyerRueckkehr([&] { return foyer::insFoyerNeustarten(speicher); });
     const bool insFoyer = speicher.restartUebernehmen();
@@ -153,8 +158,13 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
         bool amNetz = false;
         if (aufruf.modus == Modus::Host) amNetz = netz.hostenMitName(name, aufruf.port);
         else if (aufruf.modus == Modus::Join) amNetz = netz.beitretenMitAdresse(QString::fromStdString(aufruf.joinAdresse), name);
-        if (!amNetz) programm.starten(ladeDatei);
-        if (insFoyer) foyerOeffnen();
+        if (insFoyer) {
+            // Restarted into the foyer: the table waits there instead of starting a local Partie.
+            if (!amNetz) netz.imFoyerWarten();
+            foyerOeffnen();
+        } else if (!amNetz) {
+            programm.starten(ladeDatei);
+        }
     });
     const int ergebnis = QApplication::exec();
     foyerprogramm.reset();

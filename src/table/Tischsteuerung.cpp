@@ -232,7 +232,7 @@ void Tischsteuerung::setzeTempo(Tempo tempo) {
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
 
 void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
-    if (netz_) return;  // at a network table the names are the players' own
+    if (netz_ && !netz_->nurWartend()) return;  // at a network table the names are the players' own
     spiel_.namen = namen;
     hfo_.tisch().update();
 }
@@ -277,6 +277,7 @@ void Tischsteuerung::ablaufZuruecksetzen() {
 }
 
 void Tischsteuerung::neuePartie() {
+    if (netz_ && netz_->nurWartend()) netz_ = nullptr;
     begonnen_ = true;
     ablaufZuruecksetzen();
     zeilen_.clear();
@@ -290,6 +291,7 @@ void Tischsteuerung::neuePartie() {
 }
 
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
+    if (netz_ && netz_->nurWartend()) netz_ = nullptr;
     begonnen_ = true;
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();

@@ -86,40 +86,42 @@ bool Lage::istFigur(int pos) const { return karte(pos).wert == WertDame || karte
 
 void Lage::werteBerechnen() {
     const Deck& deck = spiel.deck;
-    const bool schweinOffen = schweinOeffentlich();
-    // Only a Schwein or a Supersau counts otherwise than the deck says.
-    const bool erhoeht = (trumpf == Normalspiel && spiel.schweineHalter) ||
-                         (spiel.supersauHalter == ich && istFarbspiel(trumpf));
-    const int erste = deck.erstePosition(ich);
-    const int letzte = deck.letztePosition(ich);
-    for (int p = 1; p <= deck.kartenanzahl(); ++p) {
-        const auto& k = deck[p];
-        const int s = erhoeht ? staerkeBerechnen(p, schweinOffen) : k.staerke;
-        staerken_[static_cast<std::size_t>(p)] = s;
-        if (k.status != InHand) continue;
-        const bool meine = p >= erste && p <= letzte;
-        const auto f = fi(k.farbe);
-        if (k.farbe == trumpf) {
-            ++werte.truempfeImSpiel;
-            werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterTrumpfImSpiel, s);
-            if (meine) {
-                ++werte.eigeneTruempfe;
-                werte.hoechsterEigenerTrumpf = std::max(werte.hoechsterEigenerTrumpf, s);
-            } else {
-                ++werte.fremdeTruempfe;
-                werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, s);
+    erhoeht_ = (trumpf == Normalspiel && spiel.schweineHalter) || (spiel.supersauHalter == ich && istFarbspiel(trumpf));
+    if (erhoeht_) {
+        const bool schweinOffen = schweinOeffentlich();
+        for (int p = 1; p <= deck.kartenanzahl(); ++p)
+            staerken_[static_cast<std::size_t>(p)] = staerkeBerechnen(p, schweinOffen);
+    }
+    const int groesse = deck.handgroesse();
+    for (const Sitz x : alleSitze) {
+        const bool meine = x == ich;
+        const int erste = deck.erstePosition(x);
+        for (int p = erste; p < erste + groesse; ++p) {
+            const auto& k = deck[p];
+            if (k.status != InHand) continue;
+            const int s = staerke(p);
+            const auto f = fi(k.farbe);
+            if (k.farbe == trumpf) {
+                ++werte.truempfeImSpiel;
+                werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterTrumpfImSpiel, s);
+                if (meine) {
+                    ++werte.eigeneTruempfe;
+                    werte.hoechsterEigenerTrumpf = std::max(werte.hoechsterEigenerTrumpf, s);
+                } else {
+                    ++werte.fremdeTruempfe;
+                    werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, s);
+                }
             }
-        }
-        werte.hoechsteOffene[f] = std::max(werte.hoechsteOffene[f], s);
-        if (meine) {
-            ++werte.eigeneAnzahl[f];
-            if (werte.eigeneBeste[f] == 0 || s > staerken_[static_cast<std::size_t>(werte.eigeneBeste[f])])
-                werte.eigeneBeste[f] = p;
-        } else {
-            ++werte.fremdeAnzahl[f];
-            werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], s);
-            if (istDolle(p)) ++werte.fremdeDollen;
-            if (istJoker(k.code)) werte.jokerFremd = true;
+            werte.hoechsteOffene[f] = std::max(werte.hoechsteOffene[f], s);
+            if (meine) {
+                ++werte.eigeneAnzahl[f];
+                if (werte.eigeneBeste[f] == 0 || s > staerke(werte.eigeneBeste[f])) werte.eigeneBeste[f] = p;
+            } else {
+                ++werte.fremdeAnzahl[f];
+                werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], s);
+                if (istDolle(p)) ++werte.fremdeDollen;
+                if (istJoker(k.code)) werte.jokerFremd = true;
+            }
         }
     }
     if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {

@@ -67,7 +67,9 @@ public:
     const engine::Kartenposition& karte(int pos) const { return spiel.deck[pos]; }
     bool istTrumpf(int pos) const { return spiel.deck[pos].farbe == trumpf; }
     // Strength as it will count: a known Schwein counts raised before it is played.
-    int staerke(int pos) const { return staerken_[static_cast<std::size_t>(pos)]; }
+    int staerke(int pos) const {
+        return erhoeht_ ? staerken_[static_cast<std::size_t>(pos)] : spiel.deck[pos].staerke;
+    }
     int augen(int pos) const { return spiel.deck[pos].augen; }
     bool istDolle(int pos) const;
     // Special points count for neither card in a solo (known to the soloist when silent).
@@ -147,7 +149,9 @@ private:
     int staerkeBerechnen(int pos, bool schweinOffen) const;
     void werteBerechnen();
 
-    std::array<int, engine::MaxPositionen + 1> staerken_{};
+    // Only a Schwein or a Supersau counts otherwise than the deck says; then staerken_ holds every card.
+    bool erhoeht_ = false;
+    std::array<int, engine::MaxPositionen + 1> staerken_;
 };
 
 }  // namespace players

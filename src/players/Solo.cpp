@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <functional>
 #include <span>
 #include <vector>
 
@@ -407,7 +406,8 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     return farbe;
 }
 
-int zaehle(const Deck& d, const std::vector<int>& hand, const std::function<bool(const Kartenposition&)>& test) {
+template <class Test>
+int zaehle(const Deck& d, const std::vector<int>& hand, const Test& test) {
     return static_cast<int>(std::count_if(hand.begin(), hand.end(), [&](int p) { return test(d[p]); }));
 }
 

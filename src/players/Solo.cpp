@@ -120,14 +120,14 @@ namespace {
 // Suit and strength of a card as deckFuer would give them, for the cards in hand only
 // and without copying the deck: the estimate runs for every kind at every deal.
 struct Solokarte {
-    int farbe = 0;
-    int staerke = 0;
-    int augen = 0;
+    int farbe;
+    int staerke;
+    int augen;
 };
 
 // The own cards one by one, the other hands only as far as the estimate asks.
 struct Solohaende {
-    std::array<Solokarte, MaxPositionen> eigene;
+    std::array<Solokarte, MaxPositionen / 4> eigene;
     std::size_t nEigene = 0;
     std::array<int, 3> groessen{};  // the other hands in seat order after `sitz`
     int fremdeTruempfe = 0;
@@ -136,7 +136,12 @@ struct Solohaende {
     std::array<int, 12> fettNachAugen{};   // their plain cards counted by Augen
 };
 
-int augenVonCode(int code) { return istJoker(code) ? 0 : augenVonRang(rangVonCode(code)); }
+constexpr auto augenJeCode = [] {
+    std::array<int, 26> a{};
+    for (int code = 1; code <= 25; ++code) a[static_cast<std::size_t>(code)] = istJoker(code) ? 0 : augenVonRang(rangVonCode(code));
+    return a;
+}();
+int augenVonCode(int code) { return augenJeCode[static_cast<std::size_t>(code)]; }
 
 void fremdeKarteZaehlen(Solohaende& h, int art, int farbe, int staerke, int augen, int anzahl) {
     auto& b = h.besteFremde[static_cast<std::size_t>(farbe)];

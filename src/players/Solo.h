@@ -31,7 +31,7 @@ struct Soloschaetzung {
 
 // The cards still in hand, by code: the own one by one, the others' counted.
 struct Solokarten {
-    std::array<int, engine::MaxPositionen> eigene{};
+    std::array<int, engine::MaxPositionen / 4> eigene{};
     std::size_t nEigene = 0;
     std::array<int, 26> fremdeJeCode{};
     std::array<int, 3> groessen{};  // the other hands in seat order after the seat

@@ -1,5 +1,6 @@
 // Any bytes as an options file: reading, importing and rewriting never crash, a
-// rewrite keeps every line, and what we write reads back.
+// rewrite keeps every line, what we write reads back, and after the rewrite the
+// file in memory answers as the written file does.
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
@@ -22,9 +23,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t gro
 
     inProfil(datei, gelesen);
     Einstellungen zurueck = ausProfil(Profildatei::ausBytes(datei.bytes()), Einstellungen{}, Lesekontext{});
+    Einstellungen imSpeicher = ausProfil(datei, Einstellungen{}, Lesekontext{});
     Einstellungen erwartet = gelesen;
     // names lose blanks at their ends and whatever Windows-1252 cannot hold
-    zurueck.namen = erwartet.namen = {};
+    zurueck.namen = erwartet.namen = imSpeicher.namen = {};
+    if (!(imSpeicher == zurueck)) std::abort();
     zurueck.regeln.solo = erwartet.regeln.solo = 0;
     if (!(zurueck == erwartet)) std::abort();
     return 0;

@@ -1,8 +1,14 @@
 #!/usr/bin/env bash
-# Installs the Debian packages listed in debian-packages.txt that are missing.
+# Installs the Debian packages listed in debian-packages.txt that are missing,
+# or, given package names, those of them that are missing (for tools that only
+# a script needs, such as clang for fuzzing or xvfb for the start soak).
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
-mapfile -t wanted < <(grep -vE '^\s*(#|$)' "$here/debian-packages.txt")
+if [ $# -gt 0 ]; then
+  wanted=("$@")
+else
+  mapfile -t wanted < <(grep -vE '^\s*(#|$)' "$here/debian-packages.txt")
+fi
 
 missing=()
 for p in "${wanted[@]}"; do

@@ -1,16 +1,19 @@
 #include "Fensterstart.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QRandomGenerator>
 #include <QScreen>
 #include <QTimer>
+#include <algorithm>
 #include <iostream>
 
 #include "Foyertisch.h"
 #include "Installation.h"
 #include "Oberflaeche.h"
+#include "foyer/Foyerfenster.h"
 #include "foyer/Foyerprogramm.h"
 #include "net/Namen.h"
 #include "engine/Kartentext.h"
@@ -36,12 +39,39 @@ namespace {
 
 bool wahr(int wert) { return wert != 0; }
 
+// For start-and-quit soaks: TRUMPONA_BEENDEN_NACH=ms ends the program through its
+// menu that long after the start, as a person would: close whatever box is open
+// (Escape), choose "&Ende" in the game menu, and there end without saving.
+void beendenNachUmgebung(table::Hauptfenster& hfo) {
+    bool gesetzt = false;
+    const int ms = qEnvironmentVariableIntValue("TRUMPONA_BEENDEN_NACH", &gesetzt);
+    if (!gesetzt) return;
+    auto* takt = new QTimer(&hfo);
+    takt->setInterval(50);
+    QObject::connect(takt, &QTimer::timeout, &hfo, [&hfo] {
+        if (QWidget* offen = QApplication::activeModalWidget()) {
+            auto* frage = qobject_cast<QMessageBox*>(offen);
+            const auto knoepfe = frage ? frage->buttons() : QList<QAbstractButton*>{};
+            const auto beenden = std::find_if(knoepfe.begin(), knoepfe.end(), [frage](QAbstractButton* k) {
+                return frage->buttonRole(k) == QMessageBox::DestructiveRole;
+            });
+            if (beenden != knoepfe.end()) (*beenden)->click();
+            else if (auto* dialog = qobject_cast<QDialog*>(offen)) dialog->reject();
+            else offen->close();
+            return;
+        }
+        hfo.endeAktion()->trigger();
+    });
+    QTimer::singleShot(std::max(ms, 0), takt, qOverload<>(&QTimer::start));
+}
+
 }  // namespace
 
 int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     QElapsedTimer uhr;
     uhr.start();
     const auto anwendung = anwendungStarten(argc, argv, false);
+    if (!anwendung) return 1;
     QScreen* schirm = QGuiApplication::primaryScreen();
     const QSize bildschirm = schirm ? schirm->size() : QSize(1024, 768);
     settings::Benutzerspeicher speicher(bildschirm.width());
@@ -104,11 +134,15 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
                 const auto fehler = net::namePruefen(name.toStdString());
                 return fehler ? QString::fromStdString(*fehler) : QString();
             });
-            foyerTischVerbinden(*foyerprogramm, netz, programm, speicher);
+            foyerTischVerbinden(*foyerprogramm, netz, programm);
         }
         foyerprogramm->oeffnen();
     };
     QObject::connect(hfo.foyerAktion(), &QAction::triggered, &hfo, foyerOeffnen);
+    // The program ends with its table window: the foyer closes too (and leaves the server).
+    QObject::connect(&hfo, &table::Hauptfenster::beendenGewuenscht, [&] {
+        if (foyerprogramm) foyerprogramm->fenster().close();
+    });
     // A guest whose table is lost may go back to the foyer: the program starts anew into it.
     netz.setzeFoyerRueckkehr([&] { return foyer::insFoyerNeustarten(speicher); });
     const bool insFoyer = speicher.restartUebernehmen();
@@ -118,13 +152,19 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
         // For measuring the start: TRUMPONA_STARTZEIT prints when the table first stood.
         if (qEnvironmentVariableIsSet("TRUMPONA_STARTZEIT"))
             QTimer::singleShot(0, [&] { std::cerr << "Tisch sichtbar nach " << uhr.elapsed() << " ms\n"; });
+        beendenNachUmgebung(hfo);
         // --host and --join open the window in that role; the name falls back to the last one used.
         const QString name = aufruf.name.empty() ? speicher.text(QStringLiteral("StartNick")) : QString::fromStdString(aufruf.name);
         bool amNetz = false;
         if (aufruf.modus == Modus::Host) amNetz = netz.hostenMitName(name, aufruf.port);
         else if (aufruf.modus == Modus::Join) amNetz = netz.beitretenMitAdresse(QString::fromStdString(aufruf.joinAdresse), name);
-        if (!amNetz) programm.starten(ladeDatei);
-        if (insFoyer) foyerOeffnen();
+        if (insFoyer) {
+            // Restarted into the foyer: the table waits there instead of starting a local Partie.
+            if (!amNetz) netz.imFoyerWarten();
+            foyerOeffnen();
+        } else if (!amNetz) {
+            programm.starten(ladeDatei);
+        }
     });
     const int ergebnis = QApplication::exec();
     foyerprogramm.reset();

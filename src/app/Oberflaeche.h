@@ -6,6 +6,9 @@
 
 namespace app {
 
+// Nothing (after a message on stderr) when the window modes have no display to
+// show on: Qt would abort the program there. A headless mode (`ohneAnzeigeErlaubt`)
+// draws offscreen instead.
 std::unique_ptr<QApplication> anwendungStarten(int& argc, char** argv, bool ohneAnzeigeErlaubt);
 
 }  // namespace app

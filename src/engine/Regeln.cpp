@@ -40,10 +40,16 @@ const std::array<RegelSchluessel, 30>& regelSchluessel() {
     return tabelle;
 }
 
+void jokerAbgleichen(RegelOptionen& gespeichert) {
+    if (gespeichert.herzZehn != -1) gespeichert.joker = 0;
+}
+
 Regeln regelnUebernehmen(const RegelOptionen& gespeichert) {
+    RegelOptionen o = gespeichert;
+    jokerAbgleichen(o);
     Regeln r;
     for (const auto& e : regelSchluessel()) {
-        const int wert = gespeichert.*(e.gespeichert);
+        const int wert = o.*(e.gespeichert);
         if (e.schalter) r.*(e.schalter) = wert == -1;
         else r.*(e.zahl) = wert;
     }

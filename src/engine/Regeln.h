@@ -79,7 +79,14 @@ struct Regeln {
     bool operator==(const Regeln&) const = default;
 };
 
-// A switch is in force exactly when its stored value is -1; a stored 1 does not count.
+// With the Joker the first Dolle is always high, so "Zweite schlägt Erste" (a
+// "HerzZehn" other than -1) and the Joker exclude each other. Where both are
+// stored, the Dollen rule wins and the Joker is off: choosing "Zweite schlägt
+// Erste" in the settings dialog switches the Joker off in the same way.
+void jokerAbgleichen(RegelOptionen& gespeichert);
+
+// A switch is in force exactly when its stored value is -1; a stored 1 does not
+// count. The Joker is taken over only where jokerAbgleichen leaves it.
 Regeln regelnUebernehmen(const RegelOptionen& gespeichert);
 
 // One entry per rule option: its key in the options file and where it lives.

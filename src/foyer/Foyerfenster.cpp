@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -26,6 +27,8 @@ namespace {
 QString q(const std::string& text) { return QString::fromStdString(text); }
 
 enum TischSpalte { SpNummer, SpGastgeber, SpFrei, SpRegeln, SpAmTisch };
+
+const QColor Ungelesen(0xc0, 0x30, 0x10);  // the tab of a chat with new lines
 
 }  // namespace
 
@@ -94,6 +97,9 @@ Foyerfenster::Foyerfenster(QWidget* parent) : QMainWindow(parent) {
         foyerchat_.eingabe->clear();
         if (!text.isEmpty()) emit foyerChatGesendet(text);
     });
+    // A chat seen is read: its tab loses the mark.
+    connect(chats_, &QTabWidget::currentChanged, this,
+            [this](int index) { chats_->tabBar()->setTabTextColor(index, QColor()); });
     connect(chats_, &QTabWidget::tabCloseRequested, this, [this](int index) {
         QWidget* seite = chats_->widget(index);
         std::erase_if(privat_, [seite](const auto& p) { return p.second.seite == seite; });
@@ -134,7 +140,19 @@ Foyerfenster::Chat Foyerfenster::chatAnlegen(const QString& name) {
     return c;
 }
 
-void Foyerfenster::anhaengen(QPlainTextEdit* text, const QString& zeile) { text->appendPlainText(zeile); }
+void Foyerfenster::anhaengen(const Chat& chat, const QString& zeile) {
+    chat.text->appendPlainText(zeile);
+    const int index = chats_->indexOf(chat.seite);
+    if (index >= 0 && index != chats_->currentIndex()) chats_->tabBar()->setTabTextColor(index, Ungelesen);
+}
+
+bool Foyerfenster::ungelesen(const QString& nick) const {
+    const QWidget* seite = nick.isEmpty() ? foyerchat_.seite : nullptr;
+    for (const auto& [partner, chat] : privat_)
+        if (partner.compare(nick, Qt::CaseInsensitive) == 0) seite = chat.seite;
+    const int index = seite ? chats_->indexOf(seite) : -1;
+    return index >= 0 && chats_->tabBar()->tabTextColor(index) == Ungelesen;
+}
 
 void Foyerfenster::spielerZeigen(const std::vector<Foyerspieler>& spieler, const QString& eigenerNick) {
     const QString gewaehlt = spieler_->currentItem() ? spieler_->currentItem()->data(0, Qt::UserRole).toString() : QString();
@@ -177,16 +195,16 @@ int Foyerfenster::gewaehlterTisch() const {
 }
 
 void Foyerfenster::foyerZeile(const QString& von, const QString& text) {
-    anhaengen(foyerchat_.text, von + QStringLiteral(": ") + text);
+    anhaengen(foyerchat_, von + QStringLiteral(": ") + text);
 }
 
 void Foyerfenster::privatZeile(const QString& partner, const QString& von, const QString& text) {
-    if (Chat* c = privatchat(partner, true)) anhaengen(c->text, von + QStringLiteral(": ") + text);
+    if (Chat* c = privatchat(partner, true)) anhaengen(*c, von + QStringLiteral(": ") + text);
 }
 
 void Foyerfenster::systemzeile(const QString& partner, const QString& text) {
     Chat* c = partner.isEmpty() ? nullptr : privatchat(partner, false);
-    anhaengen(c ? c->text : foyerchat_.text, text);
+    anhaengen(c ? *c : foyerchat_, text);
 }
 
 Foyerfenster::Chat* Foyerfenster::privatchat(const QString& nick, bool anlegen) {

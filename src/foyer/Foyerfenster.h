@@ -40,6 +40,8 @@ public:
     void statusSetzen(const QString& text);
     // Opens (or shows) the private chat with a player.
     void privatchatOeffnen(const QString& nick);
+    // Whether a chat (the foyer's: empty nick) has lines not seen yet.
+    bool ungelesen(const QString& nick) const;
 
     QDockWidget* spielerDock() const { return spielerDock_; }
     // The table selected in the list, 0 for none.
@@ -71,7 +73,8 @@ private:
     Chat* privatchat(const QString& nick, bool anlegen);
     void knoepfeAnpassen();
     void platzNehmen();
-    static void anhaengen(QPlainTextEdit* text, const QString& zeile);
+    // A line into a chat; a chat not in view gets its tab marked until it is.
+    void anhaengen(const Chat& chat, const QString& zeile);
 
     QTreeWidget* spieler_ = nullptr;
     QDockWidget* spielerDock_ = nullptr;

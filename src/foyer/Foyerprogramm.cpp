@@ -165,10 +165,14 @@ void Foyerprogramm::platzGenommen(int nummer) {
     listenZeigen();
 }
 
-void Foyerprogramm::zurueckImFoyer() {
+void Foyerprogramm::tischWeg() {
     verbindung_->tischSchliessen();
     verbindung_->platzVerlassen();
     listenZeigen();
+}
+
+void Foyerprogramm::zurueckImFoyer() {
+    tischWeg();
     oeffnen();
 }
 

@@ -37,6 +37,9 @@ public:
     void tischAnsagen(const QString& adresse, int port, int frei, const QString& regeln);
     void freiePlaetzeSetzen(int frei);
     void platzGenommen(int nummer);
+    // The table here is gone: its offer is withdrawn, or its seat left ("*TRET*").
+    void tischWeg();
+    // That, and the foyer comes to the front.
     void zurueckImFoyer();
 
 signals:

@@ -31,6 +31,8 @@ public:
 
     const Foyersitzung& sitzung() const { return sitzung_; }
     QString nick() const { return QString::fromStdString(sitzung_.nick()); }
+    // The name as given at the login (the nick is cut to 12 characters).
+    QString name() const { return name_; }
     // The address this machine has towards the chat server.
     QHostAddress lokaleAdresse() const;
 

@@ -47,6 +47,8 @@ public:
     void beenden();
 
     const Gastgeberkern& kern() const { return kern_; }
+    // A line from beside the table (the foyer) into the protocol log.
+    void vermerken(const QString& text) { kern_.vermerk(text.toStdString()); }
     QString name(int sitz) const;
 
 signals:

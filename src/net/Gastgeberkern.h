@@ -98,6 +98,8 @@ public:
     bool spielLaeuft() const { return spielLaeuft_; }
     std::optional<engine::Sitz> gefragterSitz() const;
     const Protokoll& protokoll() const { return protokoll_; }
+    // A remark of ours or a line from beside the table (the foyer), logged as a received line is.
+    void vermerk(const std::string& text);
 
     void kartenGegeben(const engine::Spiel&) override;
     void neugebenVerlangt(const engine::Spiel&, engine::Sitz, int grund) override;
@@ -126,7 +128,6 @@ private:
     void anSpieler(std::string_view tag, std::string_view nutzlast, std::optional<engine::Sitz> ausser = {});
     // To every guest, waiting ones included, but `ausser`.
     void anGaeste(std::string_view tag, std::string_view nutzlast, std::optional<engine::Sitz> ausser = {});
-    void vermerk(const std::string& text);
     void anmeldungSenden(engine::Sitz sitz);
     void spielblockSenden(engine::Sitz sitz);
     void wartendeAufnehmen();

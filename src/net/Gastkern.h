@@ -84,12 +84,13 @@ public:
     int spieleBeendet() const { return spieleBeendet_; }
     int netztempo() const { return netztempo_; }
     const Protokoll& protokoll() const { return protokoll_; }
+    // A remark of ours or a line from beside the table (the foyer), logged as a received line is.
+    void vermerk(const std::string& text);
 
 private:
     enum class Ziel { Neugeben, Vorbehalt, Spielbeginn, Karte, Spielende };
 
     void senden(std::string_view tag, std::string_view nutzlast = {});
-    void vermerk(const std::string& text);
     bool abweichen(const std::string& text);
     void verarbeiten(const std::string& nachricht);
     void anmeldung(const Nachricht& n);

@@ -42,7 +42,10 @@ bool dolleHaelt(const Folge& f) { return f.haelt(dolle(f)); }
 bool ersteDolleHoch(const Folge& f) { return f.l.spiel.regeln.herzZehn; }
 bool ichKontra(const Folge& f) { return f.l.wissen.partei[f.l.ich] == ParteiKontra; }
 // The second Dolle beats the first: mine takes the opponent's.
-bool dullenschlag(const Folge& f) { return wDolle(f) && !ersteDolleHoch(f) && f.l.schlaegt(dolle(f)); }
+bool dullenschlag(const Folge& f) {
+    const int meine = dolle(f);
+    return meine != 0 && wDolle(f) && !ersteDolleHoch(f) && f.l.schlaegt(meine);
+}
 // A Re player not yet known shows himself with a Kreuz-Dame early in the game.
 int kreuzDameZeigen(const Folge& f) {
     if (f.l.wissen.partei[f.l.ich] != ParteiRe || f.l.wissen.parteiBekannt[f.l.ich] != ParteiUnbekannt ||

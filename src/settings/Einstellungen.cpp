@@ -37,12 +37,6 @@ constexpr std::array<Anzeigeschluessel, 18> anzeigeschluessel{{
     {"Bedenkzeit", &Einstellungen::bedenkzeit},
 }};
 
-// Colours are stored as text and read as strings, then taken by their numeric value.
-bool istFarbe(std::string_view schluessel) {
-    return gleichOhneGrossschreibung(schluessel, "Hintergrund") ||
-           gleichOhneGrossschreibung(schluessel, "Vordergrund");
-}
-
 // The compulsory solo is written under this key but read as "Solo"; the pair
 // does not meet, so the option starts at its default after a restart.
 constexpr std::string_view PflichtsoloSchreibschluessel = "Pflichtsolo";
@@ -51,6 +45,51 @@ std::string nameSchluessel(int sitz) { return "Name" + std::to_string(sitz); }
 std::string charakterSchluessel(int sitz) { return "charakter" + std::to_string(sitz); }
 
 int alsInt(long long wert) { return static_cast<int>(std::clamp<long long>(wert, INT_MIN, INT_MAX)); }
+
+// Where an options key lives: a rule option or a display option.
+struct Feldort {
+    int engine::RegelOptionen::*regel = nullptr;
+    int Einstellungen::*anzeige = nullptr;
+    int* in(Einstellungen& e) const { return regel ? &(e.regeln.*regel) : &(e.*anzeige); }
+};
+
+// Every key by its folded name, folded once.
+const Namentabelle<Feldort>& feldorte() {
+    static const auto orte = [] {
+        Namentabelle<Feldort> m;
+        m.try_emplace(faltung(PflichtsoloSchreibschluessel), Feldort{&engine::RegelOptionen::solo, nullptr});
+        for (const auto& r : engine::regelSchluessel()) m.try_emplace(faltung(r.schluessel), Feldort{r.gespeichert, nullptr});
+        for (const auto& a : anzeigeschluessel) m.try_emplace(faltung(a.schluessel), Feldort{nullptr, a.feld});
+        return m;
+    }();
+    return orte;
+}
+
+// What the reader does with a key it finds.
+struct Leseort {
+    enum class Art { Zahl, Farbe, Name, Charakter } art;
+    Feldort feld;           // Zahl, Farbe
+    std::size_t sitz = 0;   // Name, Charakter
+};
+
+const Namentabelle<Leseort>& leseorte() {
+    static const auto orte = [] {
+        Namentabelle<Leseort> m;
+        for (std::size_t i = 0; i < 4; ++i) {
+            const int sitz = static_cast<int>(i) + 1;
+            m.try_emplace(faltung(nameSchluessel(sitz)), Leseort{Leseort::Art::Name, {}, i});
+            m.try_emplace(faltung(charakterSchluessel(sitz)), Leseort{Leseort::Art::Charakter, {}, i});
+        }
+        for (const auto schluessel : leseschluessel()) {
+            const Feldort& f = feldorte().at(faltung(schluessel));
+            // Colours are stored as text and read as strings, then taken by their numeric value.
+            const bool farbe = f.anzeige == &Einstellungen::hintergrund || f.anzeige == &Einstellungen::vordergrund;
+            m.try_emplace(faltung(schluessel), Leseort{farbe ? Leseort::Art::Farbe : Leseort::Art::Zahl, f, 0});
+        }
+        return m;
+    }();
+    return orte;
+}
 
 }  // namespace
 
@@ -85,34 +124,37 @@ const std::vector<std::string_view>& schreibschluessel() {
 }
 
 int* feld(Einstellungen& e, std::string_view schluessel) {
-    if (gleichOhneGrossschreibung(schluessel, PflichtsoloSchreibschluessel)) return &e.regeln.solo;
-    for (const auto& r : engine::regelSchluessel()) {
-        if (gleichOhneGrossschreibung(schluessel, r.schluessel)) return &(e.regeln.*(r.gespeichert));
-    }
-    for (const auto& a : anzeigeschluessel) {
-        if (gleichOhneGrossschreibung(schluessel, a.schluessel)) return &(e.*(a.feld));
-    }
-    return nullptr;
+    const auto& orte = feldorte();
+    const auto ort = orte.find(Gefaltet(schluessel).sicht());
+    return ort == orte.end() ? nullptr : ort->second.in(e);
 }
 
 Einstellungen ausProfil(const Profildatei& datei, const Einstellungen& vorgaben, const Lesekontext& kontext) {
     Einstellungen e = vorgaben;
-    for (int sitz = 1; sitz <= 4; ++sitz) {
-        const auto i = static_cast<std::size_t>(sitz - 1);
-        if (!kontext.namenBehalten) {
-            e.namen[i] = profilText(datei, Abschnitt, nameSchluessel(sitz), vorgaben.namen[i], Textpuffer);
+    // A name is read into the buffer even when it comes from the defaults.
+    if (!kontext.namenBehalten)
+        for (auto& name : e.namen) name = profilText(name, Textpuffer);
+    // One pass over the keys the file has; the others keep the value of `vorgaben`.
+    const auto& orte = leseorte();
+    for (const auto& [name, wert] : datei.eintraege(Abschnitt)) {
+        const auto ort = orte.find(name);
+        if (ort == orte.end()) continue;
+        const Leseort& l = ort->second;
+        switch (l.art) {
+            case Leseort::Art::Name:
+                if (!kontext.namenBehalten) e.namen[l.sitz] = profilText(wert, Textpuffer);
+                break;
+            case Leseort::Art::Charakter: e.charakter[l.sitz] = profilZahl(wert, e.charakter[l.sitz]); break;
+            case Leseort::Art::Farbe: *l.feld.in(e) = alsInt(fuehrendeZahl(profilText(wert, Textpuffer))); break;
+            case Leseort::Art::Zahl: {
+                int* ziel = l.feld.in(e);
+                *ziel = profilZahl(wert, *ziel);
+                break;
+            }
         }
-        e.charakter[i] = profilZahl(datei, Abschnitt, charakterSchluessel(sitz), vorgaben.charakter[i]);
     }
-    for (const auto schluessel : leseschluessel()) {
-        int* ziel = feld(e, schluessel);
-        if (istFarbe(schluessel)) {
-            const auto text = profilText(datei, Abschnitt, schluessel, std::to_string(*ziel), Textpuffer);
-            *ziel = alsInt(fuehrendeZahl(text));
-        } else {
-            *ziel = profilZahl(datei, Abschnitt, schluessel, *ziel);
-        }
-    }
+    // A file with "Zweite schlägt Erste" and the Joker gets the Dollen rule alone.
+    engine::jokerAbgleichen(e.regeln);
     if (!kontext.tonVerfuegbar) {
         e.sprachausgabe = 0;
         e.geraeusch = 0;
@@ -129,10 +171,14 @@ void inProfil(Profildatei& datei, const Einstellungen& e, std::string_view progr
         datei.setze(Abschnitt, charakterSchluessel(sitz), std::to_string(e.charakter[i]));
     }
     datei.setze(Abschnitt, "Versionsnr", std::to_string(Formatversion));
+    // Each key's field, found once.
+    static const auto felder = [] {
+        std::vector<std::pair<std::string_view, Feldort>> liste;
+        for (const auto schluessel : schreibschluessel()) liste.emplace_back(schluessel, feldorte().at(faltung(schluessel)));
+        return liste;
+    }();
     Einstellungen kopie = e;
-    for (const auto schluessel : schreibschluessel()) {
-        datei.setze(Abschnitt, schluessel, std::to_string(*feld(kopie, schluessel)));
-    }
+    for (const auto& [schluessel, ort] : felder) datei.setze(Abschnitt, schluessel, std::to_string(*ort.in(kopie)));
 }
 
 Import importieren(const Profildatei& datei, const Einstellungen& aktuell, const Lesekontext& kontext,

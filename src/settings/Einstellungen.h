@@ -62,7 +62,8 @@ inline constexpr int Formatversion = 200;
 // Strings are read into a buffer of this size, terminating NUL included.
 inline constexpr std::size_t Textpuffer = 254;
 
-// Reads every key; a missing key keeps the value of `vorgaben`.
+// Reads every key; a missing key keeps the value of `vorgaben`. With "Zweite
+// schlägt Erste" the Joker reads as off (engine::jokerAbgleichen).
 Einstellungen ausProfil(const Profildatei& datei, const Einstellungen& vorgaben, const Lesekontext& kontext);
 
 // Writes the identification, the seats and every option in the writer's order.

@@ -10,40 +10,42 @@ namespace settings {
 
 namespace {
 
-constexpr std::string_view Leerraum = " \t";
+bool leer(char c) { return c == ' ' || c == '\t'; }
 
 std::string_view getrimmt(std::string_view s) {
-    const auto anfang = s.find_first_not_of(Leerraum);
-    if (anfang == std::string_view::npos) return {};
-    const auto ende = s.find_last_not_of(Leerraum);
-    return s.substr(anfang, ende - anfang + 1);
+    while (!s.empty() && leer(s.front())) s.remove_prefix(1);
+    while (!s.empty() && leer(s.back())) s.remove_suffix(1);
+    return s;
 }
 
 bool istKommentar(std::string_view getrimmteZeile) {
     return getrimmteZeile.starts_with(';') || getrimmteZeile.starts_with('#');
 }
 
-// The section name of a header line "[name]", or nothing.
-std::optional<std::string_view> abschnittsname(std::string_view zeile) {
-    const auto z = getrimmt(zeile);
+// The section name of a header line "[name]" (given without its blanks), or nothing.
+std::optional<std::string_view> abschnittsnameGetrimmt(std::string_view z) {
     if (!z.starts_with('[')) return std::nullopt;
     const auto zu = z.rfind(']');
     if (zu == std::string_view::npos || zu == 0) return std::nullopt;
     return getrimmt(z.substr(1, zu - 1));
 }
 
-struct Eintrag {
+std::optional<std::string_view> abschnittsname(std::string_view zeile) { return abschnittsnameGetrimmt(getrimmt(zeile)); }
+
+struct Zeileneintrag {
     std::string_view schluessel;
     std::string_view wert;
 };
 
-std::optional<Eintrag> eintrag(std::string_view zeile) {
-    const auto z = getrimmt(zeile);
+// A line "key=value" (given without its blanks), or nothing.
+std::optional<Zeileneintrag> eintragGetrimmt(std::string_view z) {
     if (z.empty() || istKommentar(z) || z.starts_with('[')) return std::nullopt;
     const auto gleich = z.find('=');
     if (gleich == std::string_view::npos) return std::nullopt;
-    return Eintrag{getrimmt(z.substr(0, gleich)), getrimmt(z.substr(gleich + 1))};
+    return Zeileneintrag{getrimmt(z.substr(0, gleich)), getrimmt(z.substr(gleich + 1))};
 }
+
+std::optional<Zeileneintrag> eintrag(std::string_view zeile) { return eintragGetrimmt(getrimmt(zeile)); }
 
 std::string einzeilig(std::string_view wert) {
     std::string s(wert.substr(0, wert.find('\0')));
@@ -52,11 +54,22 @@ std::string einzeilig(std::string_view wert) {
     return s;
 }
 
+// The value as the reader sees it: one pair of enclosing quotes removed.
+std::string_view ohneAnfuehrung(std::string_view w) {
+    if (w.size() >= 2 && (w.front() == '"' || w.front() == '\'') && w.back() == w.front()) return w.substr(1, w.size() - 2);
+    return w;
+}
+
+// Of two lines for the same name the earlier one counts.
+void frueheste(std::size_t& gemerkt, std::size_t zeile) { gemerkt = std::min(gemerkt, zeile); }
+
 }  // namespace
 
 Profildatei Profildatei::ausBytes(std::string_view bytes) {
     Profildatei datei;
     datei.zeilen_ = dateiZeilen(bytes);
+    Abschnittsort* abschnitt = nullptr;
+    for (std::size_t i = 0; i < datei.zeilen_.size(); ++i) abschnitt = datei.verzeichnen(i, abschnitt);
     return datei;
 }
 
@@ -69,70 +82,111 @@ std::string Profildatei::bytes() const {
     return utf8NachCp1252(text);
 }
 
-Profildatei::Fundstelle Profildatei::suche(std::string_view abschnitt, std::string_view schluessel) const {
-    const std::string abschnittGefaltet = faltung(abschnitt);
-    const std::string schluesselGefaltet = faltung(schluessel);
-    Fundstelle fund;
-    bool imAbschnitt = false;
-    for (std::size_t i = 0; i < zeilen_.size(); ++i) {
-        if (const auto name = abschnittsname(zeilen_[i])) {
-            imAbschnitt = faltung(*name) == abschnittGefaltet;
-            if (imAbschnitt && !fund.abschnittKopf) fund.abschnittKopf = i;
-            continue;
-        }
-        if (!imAbschnitt) continue;
-        const auto e = eintrag(zeilen_[i]);
-        if (e && !fund.schluesselZeile && faltung(e->schluessel) == schluesselGefaltet) fund.schluesselZeile = i;
+Profildatei::Abschnittsort* Profildatei::verzeichnen(std::size_t zeile, Abschnittsort* abschnitt) {
+    const std::string_view z = getrimmt(zeilen_[zeile]);
+    if (const auto name = abschnittsnameGetrimmt(z)) {
+        const Gefaltet gefaltet(*name);
+        auto ort = orte_.find(gefaltet.sicht());
+        if (ort == orte_.end()) ort = orte_.emplace(gefaltet.sicht(), Abschnittsort{zeile, 0, {}}).first;
+        frueheste(ort->second.kopf, zeile);
+        return &ort->second;
     }
-    return fund;
+    if (!abschnitt) return nullptr;
+    if (const auto e = eintragGetrimmt(z)) {
+        const Gefaltet gefaltet(e->schluessel);
+        const auto ort = abschnitt->schluessel.find(gefaltet.sicht());
+        if (ort == abschnitt->schluessel.end()) abschnitt->schluessel.emplace(gefaltet.sicht(), zeile);
+        else frueheste(ort->second, zeile);
+    }
+    return abschnitt;
+}
+
+std::optional<std::size_t> Profildatei::schluesselZeile(std::string_view abschnitt, std::string_view schluessel) const {
+    const auto ort = orte_.find(Gefaltet(abschnitt).sicht());
+    if (ort == orte_.end()) return std::nullopt;
+    const auto zeile = ort->second.schluessel.find(Gefaltet(schluessel).sicht());
+    if (zeile == ort->second.schluessel.end()) return std::nullopt;
+    return zeile->second;
 }
 
 std::optional<std::string> Profildatei::wert(std::string_view abschnitt, std::string_view schluessel) const {
-    const auto fund = suche(abschnitt, schluessel);
-    if (!fund.schluesselZeile) return std::nullopt;
-    std::string_view w = eintrag(zeilen_[*fund.schluesselZeile])->wert;
-    if (w.size() >= 2 && (w.front() == '"' || w.front() == '\'') && w.back() == w.front()) {
-        w = w.substr(1, w.size() - 2);
+    const auto zeile = schluesselZeile(abschnitt, schluessel);
+    if (!zeile) return std::nullopt;
+    return std::string(ohneAnfuehrung(eintrag(zeilen_[*zeile])->wert));
+}
+
+std::vector<Profildatei::Eintrag> Profildatei::eintraege(std::string_view abschnitt) const {
+    std::vector<Eintrag> liste;
+    const auto ort = orte_.find(Gefaltet(abschnitt).sicht());
+    if (ort == orte_.end()) return liste;
+    liste.reserve(ort->second.schluessel.size());
+    for (const auto& [name, zeile] : ort->second.schluessel)
+        liste.push_back({name, ohneAnfuehrung(eintrag(zeilen_[zeile])->wert)});
+    return liste;
+}
+
+void Profildatei::einfuegen(std::size_t zeile, std::string text, Abschnittsort& abschnitt) {
+    // The lines from here on move down by one (at the end of the file there are none).
+    if (zeile < zeilen_.size()) {
+        for (auto& [name, ort] : orte_) {
+            if (ort.kopf >= zeile) ++ort.kopf;
+            if (ort.ende != 0 && ort.ende >= zeile) ++ort.ende;
+            for (auto& [schluessel, z] : ort.schluessel)
+                if (z >= zeile) ++z;
+        }
+    } else if (abschnitt.ende == zeile) {
+        ++abschnitt.ende;
     }
-    return std::string(w);
+    zeilen_.insert(zeilen_.begin() + static_cast<std::ptrdiff_t>(zeile), std::move(text));
+    verzeichnen(zeile, &abschnitt);
 }
 
 void Profildatei::setze(std::string_view abschnitt, std::string_view schluessel, std::string_view wert) {
     const std::string neuerWert = einzeilig(wert);
-    const auto fund = suche(abschnitt, schluessel);
-    if (fund.schluesselZeile) {
-        std::string& zeile = zeilen_[*fund.schluesselZeile];
-        const auto name = eintrag(zeile)->schluessel;
-        zeile = std::string(name) + "=" + neuerWert;
-        return;
+    const auto ort = orte_.find(Gefaltet(abschnitt).sicht());
+    if (ort != orte_.end()) {
+        const auto zeile = ort->second.schluessel.find(Gefaltet(schluessel).sicht());
+        if (zeile != ort->second.schluessel.end()) {
+            std::string& text = zeilen_[zeile->second];
+            const auto name = eintrag(text)->schluessel;
+            text = std::string(name) + "=" + neuerWert;
+            return;
+        }
     }
-    const std::string neueZeile = std::string(schluessel) + "=" + neuerWert;
-    if (!fund.abschnittKopf) {
+    std::string neueZeile = std::string(schluessel) + "=" + neuerWert;
+    if (ort == orte_.end()) {
         if (!zeilen_.empty() && !getrimmt(zeilen_.back()).empty()) zeilen_.emplace_back();
         zeilen_.push_back("[" + std::string(abschnitt) + "]");
-        zeilen_.push_back(neueZeile);
+        zeilen_.push_back(std::move(neueZeile));
+        verzeichnen(zeilen_.size() - 1, verzeichnen(zeilen_.size() - 2, nullptr));
         return;
     }
-    // After the last non-blank line of the section's first occurrence.
-    std::size_t einfuegen = *fund.abschnittKopf + 1;
-    for (std::size_t i = einfuegen; i < zeilen_.size() && !abschnittsname(zeilen_[i]); ++i) {
-        if (!getrimmt(zeilen_[i]).empty()) einfuegen = i + 1;
+    Abschnittsort& a = ort->second;
+    if (a.ende == 0) {
+        a.ende = a.kopf + 1;
+        for (std::size_t i = a.ende; i < zeilen_.size() && !abschnittsname(zeilen_[i]); ++i) {
+            if (!getrimmt(zeilen_[i]).empty()) a.ende = i + 1;
+        }
     }
-    zeilen_.insert(zeilen_.begin() + static_cast<std::ptrdiff_t>(einfuegen), neueZeile);
+    einfuegen(a.ende, std::move(neueZeile), a);
 }
 
 std::string profilText(const Profildatei& datei, std::string_view abschnitt, std::string_view schluessel,
                        std::string_view standard, std::size_t puffergroesse) {
     const auto gefunden = datei.wert(abschnitt, schluessel);
-    std::string_view text = gefunden ? std::string_view(*gefunden) : standard;
-    text = text.substr(0, text.find('\0'));
-    return ersteZeichen(text, puffergroesse > 0 ? puffergroesse - 1 : 0);
+    return profilText(gefunden ? std::string_view(*gefunden) : standard, puffergroesse);
+}
+
+std::string profilText(std::string_view text, std::size_t puffergroesse) {
+    return ersteZeichen(text.substr(0, text.find('\0')), puffergroesse > 0 ? puffergroesse - 1 : 0);
 }
 
 int profilZahl(const Profildatei& datei, std::string_view abschnitt, std::string_view schluessel, int standard) {
     const auto gefunden = datei.wert(abschnitt, schluessel);
-    if (!gefunden) return standard;
-    std::string_view text = *gefunden;
+    return gefunden ? profilZahl(*gefunden, standard) : standard;
+}
+
+int profilZahl(std::string_view text, int standard) {
     text = text.substr(0, text.find('\0'));
     if (text.empty()) return standard;
     bool negativ = false;

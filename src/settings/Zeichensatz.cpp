@@ -1,5 +1,6 @@
 #include "Zeichensatz.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -73,15 +74,52 @@ char32_t klein(char32_t cp) {
     }
 }
 
+// Keys are nearly always ASCII and need no decoding: lower-cases in place and
+// says whether every byte was ASCII. A table, not a comparison per byte, since
+// this runs for every key looked up.
+bool asciiFalten(char* text, std::size_t laenge) {
+    static constexpr auto klein = [] {
+        std::array<unsigned char, 256> t{};
+        for (unsigned i = 0; i < 256; ++i) t[i] = static_cast<unsigned char>(i >= 'A' && i <= 'Z' ? i + 0x20 : i);
+        return t;
+    }();
+    unsigned alle = 0;
+    for (std::size_t i = 0; i < laenge; ++i) {
+        const auto b = static_cast<unsigned char>(text[i]);
+        alle |= b;
+        text[i] = static_cast<char>(klein[b]);
+    }
+    return (alle & 0x80) == 0;
+}
+
+// How many bytes at the start are ASCII: a file is mostly runs of them, copied whole.
+std::size_t asciiLaenge(std::string_view s) {
+    std::size_t n = 0;
+    while (n < s.size() && static_cast<unsigned char>(s[n]) < 0x80) ++n;
+    return n;
+}
+
 }  // namespace
+
+Gefaltet::Gefaltet(std::string_view text) {
+    if (text.size() <= kurz_.size()) {
+        std::copy(text.begin(), text.end(), kurz_.begin());
+        laenge_ = text.size();
+        if (asciiFalten(kurz_.data(), laenge_)) return;
+    }
+    lang_ = faltung(text);  // never empty: an empty text is folded in place
+}
 
 std::string cp1252NachUtf8(std::string_view bytes) {
     std::string text;
     text.reserve(bytes.size());
-    for (const char c : bytes) {
-        const auto b = static_cast<unsigned char>(c);
-        if (b >= 0x80 && b < 0xA0) anhaengen(text, obereSteuerzeichen[b - 0x80]);
-        else anhaengen(text, b);
+    for (std::size_t i = 0; i < bytes.size();) {
+        const std::size_t ascii = asciiLaenge(bytes.substr(i));
+        text.append(bytes.substr(i, ascii));
+        i += ascii;
+        if (i == bytes.size()) break;
+        const auto b = static_cast<unsigned char>(bytes[i++]);
+        anhaengen(text, b < 0xA0 ? obereSteuerzeichen[b - 0x80] : b);
     }
     return text;
 }
@@ -90,6 +128,10 @@ std::string utf8NachCp1252(std::string_view text) {
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t i = 0; i < text.size();) {
+        const std::size_t ascii = asciiLaenge(text.substr(i));
+        bytes.append(text.substr(i, ascii));
+        i += ascii;
+        if (i == text.size()) break;
         char32_t cp = 0;
         if (!naechsterCodepunkt(text, i, cp)) {
             bytes.push_back('?');
@@ -110,6 +152,8 @@ std::string utf8NachCp1252(std::string_view text) {
 
 bool istGueltigesUtf8(std::string_view bytes) {
     for (std::size_t i = 0; i < bytes.size();) {
+        i += asciiLaenge(bytes.substr(i));
+        if (i == bytes.size()) break;
         char32_t cp = 0;
         if (!naechsterCodepunkt(bytes, i, cp)) return false;
     }
@@ -149,8 +193,9 @@ std::vector<std::string> dateiZeilen(std::string_view bytes) {
 }
 
 std::string faltung(std::string_view text) {
-    std::string ergebnis;
-    ergebnis.reserve(text.size());
+    std::string ergebnis(text);
+    if (asciiFalten(ergebnis.data(), ergebnis.size())) return ergebnis;
+    ergebnis.clear();
     for (std::size_t i = 0; i < text.size();) {
         const std::size_t anfang = i;
         char32_t cp = 0;

@@ -1,8 +1,11 @@
 #pragma once
 // Windows-1252 on disk, UTF-8 in memory, and the case folding that the
 // private-profile functions use when they compare section and key names.
+#include <array>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace settings {
@@ -28,6 +31,29 @@ std::vector<std::string> dateiZeilen(std::string_view bytes);
 std::string faltung(std::string_view text);
 
 bool gleichOhneGrossschreibung(std::string_view a, std::string_view b);
+
+// The folded form of a name for one lookup; short ASCII names (every key we
+// know) are folded in place, so looking up a key allocates nothing.
+class Gefaltet {
+public:
+    explicit Gefaltet(std::string_view text);
+    Gefaltet(const Gefaltet&) = delete;
+    Gefaltet& operator=(const Gefaltet&) = delete;
+    std::string_view sicht() const { return lang_.empty() ? std::string_view(kurz_.data(), laenge_) : lang_; }
+
+private:
+    std::array<char, 32> kurz_{};
+    std::size_t laenge_ = 0;
+    std::string lang_;
+};
+
+// Maps keyed by folded names, looked up with a Gefaltet's view.
+struct NamenHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view s) const noexcept { return std::hash<std::string_view>{}(s); }
+};
+template <class Wert>
+using Namentabelle = std::unordered_map<std::string, Wert, NamenHash, std::equal_to<>>;
 
 // The first `zeichen` code points of a UTF-8 text (Windows-1252 holds one per byte).
 std::string ersteZeichen(std::string_view text, std::size_t zeichen);

@@ -234,12 +234,13 @@ QWidget* Einstellform::regelnSeite() {
     dollen_->knopf(-1, t(ErsteSchlaegtZweite), 1);
     dollen_->gitter()->setContentsMargins(16, 0, 0, 0);
     kspalte->addWidget(dollen_);
-    QCheckBox* joker = schalter("Joker", Joker, karten);
-    kspalte->addWidget(joker);
+    joker_ = schalter("Joker", Joker, karten);
+    kspalte->addWidget(joker_);
     jokerHinweis_ = hinweis(JokerHinweis, karten);
     jokerHinweis_->setObjectName(QStringLiteral("jokerhinweis"));
     kspalte->addWidget(jokerHinweis_);
-    connect(joker, &QCheckBox::toggled, this, &Einstellform::jokerGeaendert);
+    connect(dollen_, &Wahlgruppe::geaendert, this, &Einstellform::dollenGeaendert);
+    connect(joker_, &QCheckBox::toggled, jokerHinweis_, &QLabel::setEnabled);
     kspalte->addWidget(schalter("Scharfer_Rupa", ScharferRupa, karten));
     kspalte->addWidget(schalter("Bockrunden", Bockrunden, karten));
     links->addWidget(karten);
@@ -273,16 +274,18 @@ QWidget* Einstellform::regelnSeite() {
     return seite;
 }
 
-void Einstellform::jokerGeaendert(bool joker) {
-    // With the Joker the first Dolle is always high; the choice comes back without it.
-    if (joker) {
-        if (dollen_->isEnabled()) dollenOhneJoker_ = dollen_->wert();
-        dollen_->setzeWert(-1);
-    } else if (!dollen_->isEnabled()) {
-        dollen_->setzeWert(dollenOhneJoker_);
+void Einstellform::dollenGeaendert(int herzZehn) {
+    // With the Joker the first Dolle is always high: "Zweite schlägt Erste" takes
+    // the Joker away, and choosing "Erste schlägt Zweite" again gives it back.
+    const bool zweiteSchlaegtErste = herzZehn != -1;
+    if (zweiteSchlaegtErste && joker_->isEnabled()) {
+        jokerMitErsterDolle_ = joker_->isChecked();
+        joker_->setChecked(false);
+    } else if (!zweiteSchlaegtErste && !joker_->isEnabled()) {
+        joker_->setChecked(jokerMitErsterDolle_);
     }
-    dollen_->setEnabled(!joker);
-    jokerHinweis_->setEnabled(joker);
+    joker_->setEnabled(!zweiteSchlaegtErste);
+    jokerHinweis_->setEnabled(joker_->isChecked());
 }
 
 QWidget* Einstellform::sonderpunkteSeite() {
@@ -525,13 +528,12 @@ settings::Einstellungen Einstellform::einstellungen() const {
         else if (auto* w = qobject_cast<Wahlgruppe*>(b.feld)) *ziel = w->wert();
         else if (auto* f = qobject_cast<Farbknopf*>(b.feld)) *ziel = f->wert();
     }
+    engine::jokerAbgleichen(e.regeln);
     return e;
 }
 
 void Einstellform::setzeEinstellungen(const settings::Einstellungen& e) {
     basis_ = e;
-    // The Joker's override is undone first, so the Dollen take the value given.
-    if (auto* joker = qobject_cast<QCheckBox*>(feld("Joker"))) joker->setChecked(false);
     for (std::size_t i = 0; i < 4; ++i) {
         namen_[i]->setText(QString::fromStdString(e.namen[i]));
         wertWaehlen(charaktere_[i], e.charakter[i]);
@@ -548,7 +550,9 @@ void Einstellform::setzeEinstellungen(const settings::Einstellungen& e) {
         else if (auto* f = qobject_cast<Farbknopf*>(b.feld)) f->setzeWert(wert);
     }
     tempo_->setCurrentIndex(e.animation == 0 ? TempoAus : tempoMitBewegung_);
-    jokerGeaendert(an("Joker"));
+    // The Joker as given, then the Dollen decide whether it may stay.
+    joker_->setEnabled(true);
+    dollenGeaendert(dollen_->wert());
     freigaben();
     vorschau_->setzeKartenbild(e.kartenbild);
     vorschau_->setzeRueckseite(e.rueckseite);

@@ -86,7 +86,7 @@ private:
     QWidget* feld(const char* schluessel) const;
     bool an(const char* schluessel) const;
     void freigaben();
-    void jokerGeaendert(bool joker);
+    void dollenGeaendert(int herzZehn);
     void vorhandNamenSetzen();
     QString ordner() const;
     void ordnerMerken(const QString& pfad);
@@ -98,7 +98,8 @@ private:
     std::array<QLineEdit*, 4> namen_{};
     std::array<QComboBox*, 4> charaktere_{};
     Wahlgruppe* dollen_ = nullptr;
-    int dollenOhneJoker_ = -1;  // the choice the Joker overrode, restored without it
+    QCheckBox* joker_ = nullptr;
+    bool jokerMitErsterDolle_ = false;  // the Joker as it was before "Zweite schlägt Erste" took it away
     QLabel* jokerHinweis_ = nullptr;
     QComboBox* vorhand_ = nullptr;
     Kartenvorschau* vorschau_ = nullptr;

@@ -18,6 +18,9 @@ public:
     // Whether the Partie is this table's own: a guest's is the host's, so it is
     // neither kept for the next start nor asked about when the program ends.
     virtual bool eigenePartie() const { return true; }
+    // Only holds the table still while its player is elsewhere (in the foyer): a
+    // Partie the table begins or loads itself takes its place.
+    virtual bool nurWartend() const { return false; }
     // A request for a seat played at another machine: the host asks that guest; a
     // guest waits for the host's report. Called again on every step while it is open.
     virtual void anfrageAnNetz(const engine::Anfrage&) {}

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "Netzfenstertexte.h"
@@ -41,7 +42,10 @@ Chatbereich::Chatbereich(QWidget* parent) : QDockWidget(t(netztext::ChatTitel), 
         const QString text = eingabe_->text().trimmed();
         eingabe_->clear();
         if (!text.isEmpty()) emit gesendet(text);
+        emit fertig();
     });
+    auto* zurueck = new QShortcut(QKeySequence(Qt::Key_Escape), eingabe_, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(zurueck, &QShortcut::activated, this, &Chatbereich::fertig);
 }
 
 void Chatbereich::zeileAnhaengen(const QString& zeile) {

@@ -25,6 +25,8 @@ public:
 signals:
     // A line was typed and sent with Enter.
     void gesendet(const QString& text);
+    // Enter or Escape in the line: the keys belong to the table again.
+    void fertig();
 
 private:
     QPlainTextEdit* zeilen_ = nullptr;

@@ -28,6 +28,9 @@ inline constexpr char ChatTitel[] = "Tischgespräch";
 inline constexpr char ChatHinweis[] = "Nachricht an den Tisch, mit der Eingabetaste senden";
 inline constexpr char ProtokollTitel[] = "Netzprotokoll";
 
+// The status line while the player is in the foyer and the table waits.
+inline constexpr char ImFoyer[] = "Sie sind im Internet-Foyer. Eine eigene Partie beginnt mit F2.";
+
 // When the program could not be started anew into the foyer.
 inline constexpr char KeinNeustart[] =
     "Das Programm konnte nicht neu gestartet werden. Sie spielen allein am Tisch weiter.";

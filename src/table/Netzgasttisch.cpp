@@ -65,6 +65,12 @@ void Netzgasttisch::chatSenden(const QString& text) {
 
 const net::Protokoll* Netzgasttisch::protokoll() const { return gast_.kern() ? &gast_.kern()->protokoll() : nullptr; }
 
+bool Netzgasttisch::vermerken(const QString& text) {
+    if (!gast_.kern()) return false;
+    gast_.kern()->vermerk(text.toStdString());
+    return true;
+}
+
 bool Netzgasttisch::darfAntworten() const {
     return gast_.kern() && gast_.kern()->offeneFrage() != net::Gastfrage::Keine;
 }

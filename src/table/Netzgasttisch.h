@@ -26,6 +26,7 @@ public:
 
     void chatSenden(const QString& text) override;
     const net::Protokoll* protokoll() const override;
+    bool vermerken(const QString& text) override;
 
     bool darfGeben() const override { return false; }
     bool eigenePartie() const override { return false; }

@@ -38,6 +38,10 @@ public:
 
     void chatSenden(const QString& text) override;
     const net::Protokoll* protokoll() const override { return &gastgeber_.kern().protokoll(); }
+    bool vermerken(const QString& text) override {
+        gastgeber_.vermerken(text);
+        return true;
+    }
 
     bool darfGeben() const override { return gestartet_; }
     void anfrageAnNetz(const engine::Anfrage&) override { gastgeber_.anfrageStellen(); }

@@ -15,6 +15,7 @@
 #include "Netzgasttisch.h"
 #include "Netzhosttisch.h"
 #include "Qtext.h"
+#include "Tischansicht.h"
 #include "Tischprogramm.h"
 #include "Tischsteuerung.h"
 #include "Tischtexte.h"
@@ -28,9 +29,19 @@ namespace {
 QString q(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 QString q(const std::string& text) { return QString::fromStdString(text); }
 constexpr int ChatHoehe = 130;  // pixels: six lines and the line to type
+constexpr qsizetype MaxFoyertext = 4000;  // characters of one received chunk in the log
 }  // namespace
 
 int pumpintervall(int netztempo) { return std::max(0, 50 - 10 * std::clamp(netztempo, 0, 5)); }
+
+// The table while its player is in the foyer: nothing is dealt, so no box of a
+// local game stands in the foyer's way; a Partie of its own takes its place.
+class Foyerruhe final : public Netzanbindung {
+public:
+    bool darfGeben() const override { return false; }
+    bool nurWartend() const override { return true; }
+    QString status(const engine::Anfrage&, const QString&) const override { return t(netztext::ImFoyer); }
+};
 
 Netzspiel::Netzspiel(Hauptfenster& hfo, Tischsteuerung& steuerung, Tischprogramm& programm,
                      settings::Benutzerspeicher& speicher, QObject* parent)
@@ -78,6 +89,8 @@ Netzspiel::Netzspiel(Hauptfenster& hfo, Tischsteuerung& steuerung, Tischprogramm
         if (host_) host_->chatSenden(text);
         else if (gast_) gast_->chatSenden(text);
     });
+    // After a word in the chat the cards are played by keyboard again without a click.
+    connect(chat_, &Chatbereich::fertig, this, [this] { hfo_.tisch().setFocus(); });
     // The guests hear of a new Partie before its first deal.
     connect(&hfo_, &Hauptfenster::neuePartieBestaetigt, this, [this] {
         if (host_) host_->neuePartieMelden();
@@ -112,12 +125,17 @@ bool Netzspiel::dialogAusfuehren(Netzanmeldung& d) {
     return ok;
 }
 
+bool Netzspiel::partieAufgeben() {
+    if (wartetImFoyer() || !steuerung_.partieOffen()) return true;
+    steuerung_.dialogOffen(true);
+    const bool ja = QMessageBox::question(&hfo_, hfo_.windowTitle(), t(engine::ablauftext::PartieAbbrechen),
+                                          QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    steuerung_.dialogOffen(false);
+    return ja;
+}
+
 void Netzspiel::anmeldungZeigen() {
-    if (host_ || gast_) return;
-    if (steuerung_.ablauf().partieLaeuft() &&
-        QMessageBox::question(&hfo_, hfo_.windowTitle(), t(engine::ablauftext::PartieAbbrechen),
-                              QMessageBox::Yes | QMessageBox::No) != QMessageBox::Yes)
-        return;
+    if (host_ || gast_ || !partieAufgeben()) return;
     auto d = dialog(std::nullopt, {});
     if (!dialogAusfuehren(*d)) return;
     const int port = programm_.benutzer().serverport;
@@ -204,6 +222,10 @@ void Netzspiel::anbinden(Netztisch* tisch) {
     chat_->show();
     hfo_.resizeDocks({chat_}, {ChatHoehe}, Qt::Vertical);
     menueAnpassen();
+    // From the foyer the table comes to the front.
+    hfo_.raise();
+    hfo_.activateWindow();
+    hfo_.tisch().setFocus();
 }
 
 void Netzspiel::menueAnpassen() {
@@ -216,8 +238,8 @@ void Netzspiel::menueAnpassen() {
     start_->setVisible(host_ != nullptr);
     start_->setEnabled(host_ && host_->startbereit());
     lauschen_->setVisible(host_ != nullptr);
-    hfo_.netzprotokollAktion()->setEnabled(netz);
-    if (!netz) protokollUmschalten(false);
+    hfo_.netzprotokollAktion()->setEnabled(netz || foyerVerbunden_);
+    if (!netz && !foyerVerbunden_) protokollUmschalten(false);
 }
 
 void Netzspiel::protokollUmschalten(bool zeigen) {
@@ -225,7 +247,7 @@ void Netzspiel::protokollUmschalten(bool zeigen) {
     if (zeigen) hfo_.resizeDocks({chat_, protokoll_}, {hfo_.width() / 2, hfo_.width() / 2}, Qt::Horizontal);
 }
 
-void Netzspiel::alleinSpielen() {
+void Netzspiel::tischAbbauen() {
     Netztisch* alt = host_ ? static_cast<Netztisch*>(host_) : gast_;
     if (!alt) return;
     if (gast_) gast_->verlassen();
@@ -233,13 +255,47 @@ void Netzspiel::alleinSpielen() {
     gast_ = nullptr;
     alt->disconnect(this);
     alt->disconnect(chat_);
-    protokoll_->setzeProtokoll(nullptr);
+    protokoll_->setzeProtokoll(&foyerprotokoll_);
     alt->deleteLater();
     chat_->hide();
     menueAnpassen();
+    emit tischAbgebaut();
+}
+
+void Netzspiel::alleinSpielen() {
+    if (!host_ && !gast_) return;
+    tischAbbauen();
     // The seats get their own names and players back; a local Partie begins.
     steuerung_.netzAnbinden(nullptr);
     programm_.EinstUebernehmen(programm_.einstellungen(), programm_.benutzer());
+}
+
+void Netzspiel::imFoyerWarten() {
+    tischAbbauen();
+    if (!ruhe_) ruhe_ = std::make_unique<Foyerruhe>();
+    steuerung_.netzAnbinden(ruhe_.get());
+    programm_.EinstUebernehmen(programm_.einstellungen(), programm_.benutzer());
+}
+
+bool Netzspiel::wartetImFoyer() const { return ruhe_ && steuerung_.netz() == ruhe_.get(); }
+
+void Netzspiel::foyerVerbunden(bool verbunden) {
+    foyerVerbunden_ = verbunden;
+    if (!host_ && !gast_) protokoll_->setzeProtokoll(&foyerprotokoll_);
+    menueAnpassen();
+}
+
+void Netzspiel::foyertextProtokollieren(const QString& text) {
+    if (!protokoll_->isVisible()) return;
+    // One line per received line; a flood is cut, the log keeps its own bound.
+    QString zeilen = text.left(MaxFoyertext);
+    zeilen.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    zeilen.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    while (zeilen.endsWith(QLatin1Char('\n'))) zeilen.chop(1);
+    Netztisch* tisch = host_ ? static_cast<Netztisch*>(host_) : gast_;
+    if (tisch && tisch->vermerken(zeilen)) return;
+    foyerprotokoll_.vermerk(zeilen.toStdString());
+    protokoll_->geaendert();
 }
 
 void Netzspiel::nameVergeben(const QString& text) {
@@ -278,6 +334,8 @@ void Netzspiel::verloren(bool erreicht, int nummer, const QString& beschreibung)
         programmBeenden();
         return;
     }
+    // A player logged in to this program's foyer goes back to it; else the program starts anew into it.
+    if (foyerZurueck_ && foyerZurueck_()) return imFoyerWarten();
     if (foyerRueckkehr_) {
         if (foyerRueckkehr_()) return programmBeenden();
     } else {

@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "net/Netzzeiten.h"
+#include "net/Protokoll.h"
 
 class QAction;
 class QLabel;
@@ -21,6 +22,7 @@ class Benutzerspeicher;
 namespace table {
 
 class Chatbereich;
+class Foyerruhe;
 class Hauptfenster;
 class Netzanmeldung;
 class Netzgasttisch;
@@ -47,6 +49,9 @@ public:
     // is written and the program started anew (it then opens the foyer); true
     // when it was, and this one ends. Without it only the marker is written.
     void setzeFoyerRueckkehr(std::function<bool()> rueckkehr) { foyerRueckkehr_ = std::move(rueckkehr); }
+    // Tried before that: back to the foyer this program is logged in to (true),
+    // or there is none (false).
+    void setzeFoyerZurueck(std::function<bool()> zurueck) { foyerZurueck_ = std::move(zurueck); }
 
     // Opens the table; false, after a box, when the port cannot be opened.
     bool hosten(const QString& name, int port);
@@ -56,8 +61,18 @@ public:
     bool hostenMitName(const QString& name, std::optional<int> port);
     bool beitretenMitAdresse(const QString& adresse, const QString& name);
 
-    // Leaves the network table; the seats get their own names back and a local Partie begins.
-    void tischVerlassen() { alleinSpielen(); }
+    // The player is in the foyer: a network table is left and the window waits
+    // without dealing (no box of a local game stands in the foyer's way) until he
+    // sits down at a table or starts, loads or plays a Partie of his own.
+    void imFoyerWarten();
+    bool wartetImFoyer() const;
+    // Before a network table takes the place of a running local Partie: the usual
+    // question. True when there is none or the person gives it up.
+    bool partieAufgeben();
+    // While the foyer is connected its traffic can be logged, with or without a table.
+    void foyerVerbunden(bool verbunden);
+    // Text received from the foyer: into the protocol log while the log is shown.
+    void foyertextProtokollieren(const QString& text);
 
     Netzhosttisch* host() const { return host_; }
     Netzgasttisch* gast() const { return gast_; }
@@ -70,6 +85,8 @@ public:
 signals:
     void spielerKommt();
     void spielerGeht();
+    // The network table of this window is gone (left, lost or given up for a Partie alone).
+    void tischAbgebaut();
 
 public slots:
     // "Netzwerkspiel...": the login dialog; OK hosts or joins.
@@ -82,6 +99,7 @@ private:
     net::Netzzeiten zeiten() const;
     void anbinden(Netztisch* tisch);
     void alleinSpielen();
+    void tischAbbauen();
     void nameVergeben(const QString& text);
     void verloren(bool erreicht, int nummer, const QString& beschreibung);
     void programmBeenden();
@@ -94,6 +112,10 @@ private:
     settings::Benutzerspeicher& speicher_;
     std::optional<net::Netzzeiten> zeiten_;
     std::function<bool()> foyerRueckkehr_;
+    std::function<bool()> foyerZurueck_;
+    std::unique_ptr<Foyerruhe> ruhe_;
+    net::Protokoll foyerprotokoll_;  // the foyer's traffic while no table keeps a log
+    bool foyerVerbunden_ = false;
 
     QAction* netzwerkspiel_ = nullptr;
     QAction* start_ = nullptr;

@@ -27,6 +27,8 @@ public:
     virtual void chatSenden(const QString& text) = 0;
     // The traffic so far (empty before there is any).
     virtual const net::Protokoll* protokoll() const = 0;
+    // A line from beside the table (the foyer) into its protocol log; false while there is none.
+    virtual bool vermerken(const QString& text) = 0;
 
     // The last status text of the network (what the line shows while the game has none).
     const QString& netzstatus() const { return netzstatus_; }

@@ -232,7 +232,7 @@ void Tischsteuerung::setzeTempo(Tempo tempo) {
 void Tischsteuerung::setzeRegelOptionen(const engine::RegelOptionen& regeln) { ablauf_.regelOptionenSetzen(regeln); }
 
 void Tischsteuerung::setzeNamen(const engine::ProSitz<std::string>& namen) {
-    if (netz_) return;  // at a network table the names are the players' own
+    if (netz_ && !netz_->nurWartend()) return;  // at a network table the names are the players' own
     spiel_.namen = namen;
     hfo_.tisch().update();
 }
@@ -277,6 +277,8 @@ void Tischsteuerung::ablaufZuruecksetzen() {
 }
 
 void Tischsteuerung::neuePartie() {
+    if (netz_ && netz_->nurWartend()) netz_ = nullptr;
+    begonnen_ = true;
     ablaufZuruecksetzen();
     zeilen_.clear();
     angaben_.clear();
@@ -289,6 +291,8 @@ void Tischsteuerung::neuePartie() {
 }
 
 void Tischsteuerung::zustandUebernehmen(const engine::Spiel& stand) {
+    if (netz_ && netz_->nurWartend()) netz_ = nullptr;
+    begonnen_ = true;
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
     protokoll_.vergessen();
@@ -335,6 +339,7 @@ void Tischsteuerung::dialogOffen(bool offen) {
 
 void Tischsteuerung::netzAnbinden(Netzanbindung* netz) {
     netz_ = netz;
+    begonnen_ = true;
     ablaufZuruecksetzen();
     begruendungen_.verwerfen();
     zeilen_.clear();
@@ -438,7 +443,7 @@ void Tischsteuerung::meldungenZeigen() {
 // the person, a timer or an animation.
 void Tischsteuerung::weiter() {
     netzBeschaeftigtMelden();
-    if (beschaeftigt_ || imDialog() || geplant_) return;
+    if (!begonnen_ || beschaeftigt_ || imDialog() || geplant_) return;
     if (!fremdeKarten_.empty()) {
         const auto [pos, sitz] = fremdeKarten_.front();
         fremdeKarten_.erase(fremdeKarten_.begin());

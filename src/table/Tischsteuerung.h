@@ -198,6 +198,7 @@ private:
     engine::Spiel letztesSpiel_;  // the last scored game, for its tricks
     players::Spielbegruendungen letzteBegruendungen_;
     std::function<void(QWidget*)> verlaufZeigen_;
+    bool begonnen_ = false;       // nothing is dealt before a Partie is begun or a game taken over
     bool geplant_ = false;        // a step is scheduled
     bool beschaeftigt_ = false;   // a card flies or a trick is being collected
     int dialoge_ = 0;             // modal dialogs open (ours and the program's, one may open over another)

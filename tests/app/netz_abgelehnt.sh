@@ -24,7 +24,7 @@ erwarte() {
 
 offen() {  # waits for the port line of a host writing to $1
   for _ in $(seq 200); do
-    P=$(sed -n 's/^Tisch offen auf Port //p' "$1")
+    P=$(sed -n 's/^Tisch offen auf Port //p' "$1" 2>/dev/null || true)
     [ -n "$P" ] && return 0
     sleep 0.05
   done

@@ -14,7 +14,7 @@ timeout 50 "$T" --host --port 0 --auto --guests 3 --games 5 --seed 3 --json "$D/
 HOST=$!
 P=
 for _ in $(seq 200); do
-  P=$(sed -n 's/^Tisch offen auf Port //p' "$D/host.err")
+  P=$(sed -n 's/^Tisch offen auf Port //p' "$D/host.err" 2>/dev/null || true)
   [ -n "$P" ] && break
   sleep 0.05
 done

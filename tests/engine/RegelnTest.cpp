@@ -22,6 +22,22 @@ TEST(RegelnUebernehmen, SchalterNurBeiMinusEinsZahlenUnveraendert) {
     }
 }
 
+// "Zweite schlägt Erste" and the Joker never hold together: the Dollen rule wins.
+TEST(RegelnUebernehmen, JokerNurWennDieErsteDolleHochIst) {
+    struct Fall { int herzZehn, joker; bool herzZehnAn, jokerAn; };
+    for (const Fall& f : {Fall{-1, -1, true, true}, Fall{0, -1, false, false}, Fall{1, -1, false, false},
+                          Fall{0, 0, false, false}, Fall{-1, 0, true, false}, Fall{-1, 3, true, false}}) {
+        RegelOptionen o;
+        o.herzZehn = f.herzZehn;
+        o.joker = f.joker;
+        const Regeln r = regelnUebernehmen(o);
+        EXPECT_EQ(r.herzZehn, f.herzZehnAn) << f.herzZehn << "/" << f.joker;
+        EXPECT_EQ(r.joker, f.jokerAn) << f.herzZehn << "/" << f.joker;
+        jokerAbgleichen(o);
+        EXPECT_EQ(o.joker, f.herzZehn == -1 ? f.joker : 0) << f.herzZehn << "/" << f.joker;
+    }
+}
+
 TEST(RegelSchluessel, JederSchluesselEinmalMitSeinemStandard) {
     std::set<std::string_view> gesehen;
     const RegelOptionen standard;

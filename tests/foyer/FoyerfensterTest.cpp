@@ -91,6 +91,14 @@ TEST_F(Foyerfensterprobe, AnmeldenChattenUndPlatzNehmen) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return programm.fenster().findChild<QWidget*>(QStringLiteral("Bert")) != nullptr; }, Frist));
     EXPECT_TRUE(programm.fenster().findChild<QWidget*>(QStringLiteral("Bert"))->findChild<QPlainTextEdit*>()->toPlainText().contains(
         QStringLiteral("Bert: Spielen wir?")));
+    // A chat not in view is marked until it is looked at.
+    auto* chats = programm.fenster().findChild<QTabWidget*>();
+    chats->setCurrentIndex(chats->indexOf(foyerText->parentWidget()));
+    bert.privatSenden(QStringLiteral("Anna"), QStringLiteral("Noch da?"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return programm.fenster().ungelesen(QStringLiteral("bert")); }, Frist));
+    EXPECT_FALSE(programm.fenster().ungelesen(QString()));
+    chats->setCurrentWidget(programm.fenster().findChild<QWidget*>(QStringLiteral("Bert")));
+    EXPECT_FALSE(programm.fenster().ungelesen(QStringLiteral("Bert")));
 
     // Bert opens a table; Anna sees it, who sits there, and asks for the seat.
     bert.tischEroeffnen(QStringLiteral("127.0.0.1"), 40002, 3, QStringLiteral("48 Karten, 12 Spiele"));

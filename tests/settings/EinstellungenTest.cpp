@@ -57,11 +57,24 @@ TEST(EinstellungenLesen, JederSchluesselWirdGelesen) {
     // Every options key, rules included, set to a value no default has.
     std::string datei = "[Optionen]\r\n";
     for (const auto schluessel : leseschluessel()) datei += std::string(schluessel) + "=7\r\n";
-    const Einstellungen e = lesen(utf8NachCp1252(datei));
+    Einstellungen e = lesen(utf8NachCp1252(datei));
+    // HerzZehn 7 is "Zweite schlägt Erste", which switches the Joker off.
+    EXPECT_EQ(e.regeln.joker, 0);
+    e.regeln.joker = 7;
     for (const auto& r : engine::regelSchluessel()) EXPECT_EQ(e.regeln.*(r.gespeichert), 7) << r.schluessel;
     Einstellungen kopie = e;
     for (const auto schluessel : leseschluessel()) EXPECT_EQ(*feld(kopie, schluessel), 7) << schluessel;
     EXPECT_EQ(e.hintergrund, 7);
+}
+
+TEST(EinstellungenLesen, JokerNurMitErsterDolleHoch) {
+    struct Fall { std::string zeilen; int herzZehn, joker; };
+    for (const auto& f : {Fall{"Joker=-1\r\n", -1, -1}, Fall{"HerzZehn=-1\r\nJoker=-1\r\n", -1, -1},
+                          Fall{"HerzZehn=0\r\nJoker=-1\r\n", 0, 0}, Fall{"Joker=-1\r\nHerzZehn=1\r\n", 1, 0}}) {
+        const Einstellungen e = lesen("[Optionen]\r\n" + f.zeilen);
+        EXPECT_EQ(e.regeln.herzZehn, f.herzZehn) << f.zeilen;
+        EXPECT_EQ(e.regeln.joker, f.joker) << f.zeilen;
+    }
 }
 
 TEST(EinstellungenLesen, AbgeleiteteWerte) {

@@ -1,3 +1,5 @@
+#include <array>
+
 #include <gtest/gtest.h>
 
 #include "settings/Profildatei.h"
@@ -95,5 +97,31 @@ TEST(Profildatei, FuehrendeZahl) {
     for (const auto& f : {Fall{"6196318", 6196318}, Fall{" 12 ", 12}, Fall{"-5x", -5}, Fall{"grün", 0},
                           Fall{"", 0}, Fall{"99999999999999999999999", 999999999999999999}}) {
         EXPECT_EQ(fuehrendeZahl(f.text), f.wert) << f.text;
+    }
+}
+
+// Writes shift the lines below them; every later lookup must still find each key
+// where a fresh read of the written file finds it.
+TEST(Profildatei, NachJedemSchreibenFindetSichJederSchluessel) {
+    const std::vector<std::string> anfaenge{
+        "",
+        "[Optionen]\nA=1\n\n[Anderes]\nB=2\n[optionen]\nC=3\nA=spaet\n",
+        "[Optionen]\nA=1\n[Anderes]\nB=2",
+        "; vorne\nB=ohne Abschnitt\n[Anderes]\nA=x\n\n\n[Optionen]\n\n",
+    };
+    const std::vector<std::array<std::string, 3>> schritte{
+        {"Optionen", "A", "10"}, {"Optionen", "D", "11"}, {"Anderes", "B", "12"}, {"Neu", "A", "13"},
+        {"OPTIONEN", "c", "14"}, {"Anderes", "E", "15"}, {"Optionen", "E", "16"}, {"neu", "F", "17"},
+    };
+    for (const auto& anfang : anfaenge) {
+        Profildatei d = datei(anfang);
+        for (const auto& [abschnitt, schluessel, wert] : schritte) {
+            d.setze(abschnitt, schluessel, wert);
+            const Profildatei frisch = datei(d.bytes());
+            for (const auto& [a, s, w] : schritte) {
+                EXPECT_EQ(d.wert(a, s), frisch.wert(a, s)) << anfang << " nach " << abschnitt << "/" << schluessel;
+            }
+            EXPECT_EQ(d.wert(abschnitt, schluessel), wert);
+        }
     }
 }

@@ -83,7 +83,7 @@ TEST_F(EinstellformTest, JedeGeaenderteOptionErreichtDieDateiNurMitSpeichernJn) 
         table::Einstellform form(Einstellungen{}, table::Benutzereinstellungen{}, umgebung());
         std::map<std::string, int> erwartet;
         for (const std::string_view schluessel : settings::leseschluessel()) {
-            if (schluessel == "Joker") continue;  // it overrides the Dollen: see the interlock test
+            if (schluessel == "Joker") continue;  // "Zweite schlägt Erste" takes it away: see the interlock test
             if (schluessel == "Animation") continue;  // one list with the pace: see the Tempo test
             QWidget* w = form.findChild<QWidget*>(QString::fromUtf8(schluessel.data(), static_cast<qsizetype>(schluessel.size())));
             ASSERT_NE(w, nullptr) << schluessel;
@@ -115,32 +115,40 @@ TEST_F(EinstellformTest, JedeGeaenderteOptionErreichtDieDateiNurMitSpeichernJn) 
     }
 }
 
-TEST_F(EinstellformTest, JokerErzwingtErsteDolleHoch) {
+// With the Joker the first Dolle is always high: choosing "Zweite schlägt Erste"
+// takes the Joker away and greys it, "Erste schlägt Zweite" gives it back.
+TEST_F(EinstellformTest, ZweiteSchlaegtErsteNimmtDenJoker) {
     Einstellungen e;
-    e.regeln.herzZehn = 0;  // Zweite schlägt Erste
+    e.regeln.joker = -1;
     table::Einstellform form(e, {}, umgebung());
     auto* joker = form.findChild<QCheckBox*>(QStringLiteral("Joker"));
-    auto* dollen = form.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"));
     auto* hinweis = form.findChild<QLabel*>(QStringLiteral("jokerhinweis"));
     EXPECT_EQ(hinweis->text(), QStringLiteral("Beim Spiel mit Joker gilt immer: Erste Dolle ist hoch!"));
+    std::map<QString, QRadioButton*> dollen;
+    for (auto* k : form.findChild<QWidget*>(QStringLiteral("HerzZehn"))->findChildren<QRadioButton*>()) dollen[k->text()] = k;
+    const QString zweite = QStringLiteral("Zweite schlägt Erste"), erste = QStringLiteral("Erste schlägt Zweite");
     const struct {
-        bool joker;
-        int herzZehn;
-        bool waehlbar;
-    } schritte[] = {{false, 0, true}, {true, -1, false}, {false, 0, true}, {true, -1, false}};
+        QString dollen;      // the radio button clicked, or empty for the joker box
+        int herzZehn, joker;  // as the dialog hands them on
+        bool jokerWaehlbar;
+    } schritte[] = {{{}, -1, -1, true}, {zweite, 0, 0, false}, {erste, -1, -1, true},
+                    {{}, -1, 0, true},  {zweite, 0, 0, false}, {erste, -1, 0, true}};
     for (const auto& s : schritte) {
-        joker->setChecked(s.joker);
-        EXPECT_EQ(dollen->wert(), s.herzZehn) << s.joker;
-        EXPECT_EQ(dollen->isEnabled(), s.waehlbar) << s.joker;
-        EXPECT_EQ(hinweis->isEnabled(), s.joker);
-        EXPECT_EQ(form.einstellungen().regeln.herzZehn, s.herzZehn);
-        EXPECT_EQ(form.einstellungen().regeln.joker, s.joker ? -1 : 0);
+        if (s.dollen.isEmpty()) joker->setChecked(s.joker != 0);
+        else dollen.at(s.dollen)->click();
+        const std::string schritt = s.dollen.isEmpty() ? "Joker" : s.dollen.toStdString();
+        EXPECT_EQ(form.einstellungen().regeln.herzZehn, s.herzZehn) << schritt;
+        EXPECT_EQ(form.einstellungen().regeln.joker, s.joker) << schritt;
+        EXPECT_EQ(joker->isChecked(), s.joker != 0) << schritt;
+        EXPECT_EQ(joker->isEnabled(), s.jokerWaehlbar) << schritt;
+        EXPECT_EQ(hinweis->isEnabled(), s.joker != 0) << schritt;
     }
-    // Opened with the Joker on, the Dollen follow it whatever the file says.
-    e.regeln.joker = -1;
-    table::Einstellform mitJoker(e, {}, umgebung());
-    EXPECT_EQ(mitJoker.einstellungen().regeln.herzZehn, -1);
-    EXPECT_FALSE(mitJoker.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"))->isEnabled());
+    // Handed both, the dialog shows the Dollen rule and the Joker off.
+    e.regeln.herzZehn = 0;
+    table::Einstellform beide(e, {}, umgebung());
+    EXPECT_EQ(beide.einstellungen().regeln.herzZehn, 0);
+    EXPECT_EQ(beide.einstellungen().regeln.joker, 0);
+    EXPECT_FALSE(beide.findChild<QCheckBox*>(QStringLiteral("Joker"))->isEnabled());
 }
 
 TEST_F(EinstellformTest, ExportUndImportStellenAlleWerteWiederHer) {
@@ -397,7 +405,7 @@ QString gezeigteVorlage(table::Einstellform& form) {
 
 TEST_F(EinstellformTest, RegelvorlagenSetzenRegelnUndWerdenErkannt) {
     Einstellungen e;
-    e.regeln.joker = -1;  // the Joker forces the first Dolle high; a preset without it frees the choice again
+    e.regeln.joker = -1;  // a preset with "Zweite schlägt Erste" takes the Joker away
     table::Einstellform form(e, {}, umgebung());
     EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("(eigene Auswahl)"));
 
@@ -411,11 +419,18 @@ TEST_F(EinstellformTest, RegelvorlagenSetzenRegelnUndWerdenErkannt) {
     }
     EXPECT_TRUE(form.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"))->isEnabled());
 
-    // Turnierregeln: second Dolle beats the first; switching the Joker on overrides that and leaves the preset.
+    // Turnierregeln: the second Dolle beats the first, so the Joker is off and greyed; with
+    // "Erste schlägt Zweite" it can be ticked again, which leaves the preset.
     vorlageWaehlen(form, QStringLiteral("Turnierregeln"));
     EXPECT_EQ(form.einstellungen().regeln.herzZehn, 0);
-    form.findChild<QCheckBox*>(QStringLiteral("Joker"))->setChecked(true);
+    auto* joker = form.findChild<QCheckBox*>(QStringLiteral("Joker"));
+    EXPECT_FALSE(joker->isEnabled());
+    EXPECT_FALSE(joker->isChecked());
+    for (auto* k : form.findChild<QWidget*>(QStringLiteral("HerzZehn"))->findChildren<QRadioButton*>())
+        if (k->text() == QStringLiteral("Erste schlägt Zweite")) k->click();
+    joker->setChecked(true);
     EXPECT_EQ(form.einstellungen().regeln.herzZehn, -1);
+    EXPECT_EQ(form.einstellungen().regeln.joker, -1);
     EXPECT_EQ(gezeigteVorlage(form), QStringLiteral("(eigene Auswahl)"));
 
     // Kept as house rules, they are offered and recognised from then on, in a new dialog too.
@@ -426,7 +441,7 @@ TEST_F(EinstellformTest, RegelvorlagenSetzenRegelnUndWerdenErkannt) {
     vorlageWaehlen(neu, QStringLiteral("Hausregeln (eigene)"));
     EXPECT_EQ(neu.einstellungen().regeln, eigene);
     EXPECT_EQ(neu.einstellungen().regeln.joker, -1);
-    EXPECT_FALSE(neu.findChild<table::Wahlgruppe*>(QStringLiteral("HerzZehn"))->isEnabled());
+    EXPECT_TRUE(neu.findChild<QCheckBox*>(QStringLiteral("Joker"))->isEnabled());
 }
 
 TEST(Regelvorlagen, HausregelnAlsText) {

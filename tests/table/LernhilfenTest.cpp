@@ -176,7 +176,8 @@ TEST_F(LernhilfenTest, AlleKartenZeigenUndGespielteKarten) {
         const QImage vorher = fenster->grab().toImage();
         const int karten = static_cast<int>(tisch.handfolge().size());
         QTest::mouseClick(&tisch, Qt::LeftButton, {}, tisch.kartenmitte(tisch.handfolge().front()).toPoint());
-        for (int pos : tisch.handfolge()) {
+        const std::vector<int> folge = tisch.handfolge();  // a played card changes the hand under us
+        for (int pos : folge) {
             if (static_cast<int>(tisch.handfolge().size()) < karten) break;
             QTest::mouseClick(&tisch, Qt::LeftButton, {}, tisch.kartenmitte(pos).toPoint());
         }

@@ -3,6 +3,7 @@
 // leaves its seat to the host's computer.
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <array>
 #include <optional>
@@ -17,6 +18,7 @@
 #include "table/Netzgasttisch.h"
 #include "table/Netzhosttisch.h"
 #include "table/Spielendedialog.h"
+#include "table/Tischansicht.h"
 
 namespace {
 
@@ -109,6 +111,17 @@ protected:
 
 TEST_F(NetzspielTest, ZweiFensterSpielenGleich) {
     tischeOeffnen();
+    // The keys belong to the table once joined, and again after a word in the chat (Enter or Escape).
+    table::Hauptfenster& g0 = gast_->hfo;
+    EXPECT_EQ(g0.focusWidget(), &g0.tisch());
+    auto* eingabe = g0.findChild<QLineEdit*>(QStringLiteral("txtChatEingabe"));
+    for (const auto taste : {Qt::Key_Return, Qt::Key_Escape}) {
+        eingabe->setFocus();
+        QTest::keyClicks(eingabe, QStringLiteral("Hallo"));
+        QTest::keyClick(eingabe, taste);
+        EXPECT_EQ(g0.focusWidget(), &g0.tisch()) << taste;
+    }
+    EXPECT_TRUE(warten([&] { return host_->netz.chat()->text().contains(QStringLiteral("Anna: Hallo")); }));
     // Who sits where, on both screens.
     const engine::Spiel& h = host_->spiel();
     EXPECT_EQ(h.namen[Sitz(1)], "Wirt");

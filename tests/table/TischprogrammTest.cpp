@@ -126,12 +126,21 @@ TEST_F(TischprogrammTest, WillkommenBeimErstenStart) {
     } faelle[] = {{true, "neu"}, {true, "laden"}, {false, nullptr}};
     for (const auto& f : faelle) {
         Tisch t(ordner_.path());
+        // Stored rules far from the built-in ones, and every deal asked for by hand.
         settings::Einstellungen e = t.programm.einstellungen();
         e.willkommen = f.willkommen ? -1 : 0;
-        t.programm.EinstUebernehmen(e, t.programm.benutzer());
+        e.regeln.scharferRupa = -1;
+        e.regeln.vorhand = 3;
+        e.regeln.solis = 0;
+        table::Benutzereinstellungen b = t.programm.benutzer();
+        b.manuelleVerteilung = true;
+        t.programm.EinstUebernehmen(e, b);
         int gesehen = 0;
         QString regeltext;
+        std::vector<std::size_t> dateifragenBeimGeben;  // per "Manuelle Kartenverteilung?": file questions so far
         antworten_ = [&](QWidget* w) {
+            if (auto* box = qobject_cast<QMessageBox*>(w); box && box->text() == QStringLiteral("Manuelle Kartenverteilung?"))
+                dateifragenBeimGeben.push_back(t.wahl.fragen.size());
             if (auto* seite = qobject_cast<table::Regelseite*>(w)) {
                 regeltext = seite->text();
                 testhilfe::bildAblegen(*seite, QStringLiteral("spielregeln"));
@@ -166,6 +175,12 @@ TEST_F(TischprogrammTest, WillkommenBeimErstenStart) {
             EXPECT_EQ(t.wahl.fragen[0].filter, "Doppelkopf-Partie (*.DKP)|*.dkp|Alle Dateien (*.*)|*.*");
         }
         ASSERT_TRUE(warten([&] { return t.hfo.tisch().kartenwahl() || t.spiel().stich.anzahl > 0; }));
+        // One deal, after the file dialog, of the first game with the stored rules.
+        EXPECT_EQ(dateifragenBeimGeben, std::vector<std::size_t>{laden ? 1u : 0u});
+        EXPECT_EQ(t.spiel().partie.spielNr, 1);
+        EXPECT_EQ(t.spiel().regeln.kartenanzahl, 40);
+        EXPECT_EQ(t.spiel().vorhand, Sitz(3));
+        EXPECT_FALSE(t.spiel().regeln.solis);
     }
 }
 
@@ -214,6 +229,27 @@ TEST_F(TischprogrammTest, GespeicherteParteMittenImStichSiehtGeladenGleichAus) {
     c.programm.starten(datei);
     ASSERT_TRUE(warten([&] { return c.hfo.tisch().kartenwahl(); }));
     EXPECT_TRUE(c.hfo.tisch().grab().toImage() == vorher);
+
+    // From the welcome screen, with every deal asked for by hand: nothing is dealt
+    // before the file is read, so no "Manuelle Kartenverteilung?" comes.
+    Tisch d(ordner_.path(), 8);
+    settings::Einstellungen e = d.programm.einstellungen();
+    e.willkommen = -1;
+    table::Benutzereinstellungen manuell = d.programm.benutzer();
+    manuell.manuelleVerteilung = true;
+    d.programm.EinstUebernehmen(e, manuell);
+    d.wahl.antworten = {datei};
+    boxen_.clear();
+    antworten_ = [](QWidget* w) {
+        auto* willkommen = qobject_cast<table::Willkommen*>(w);
+        if (willkommen) willkommen->ladenKnopf()->click();
+        return willkommen != nullptr;
+    };
+    d.programm.starten();
+    antworten_ = nullptr;
+    ASSERT_TRUE(warten([&] { return d.hfo.tisch().kartenwahl(); }));
+    EXPECT_EQ(d.spiel().deck, gespeichert.deck);
+    EXPECT_TRUE(boxen_.isEmpty()) << boxen_.join(QLatin1Char('|')).toStdString();
 }
 
 // A finished game saved headless: the cycle played by the simple players up to its score.

@@ -3,6 +3,9 @@
 #include <QButtonGroup>
 #include <QColorDialog>
 #include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
 #include <QPainter>
 #include <QRadioButton>
 #include <array>
@@ -10,9 +13,28 @@
 #include "Anzeigeoptionen.h"
 #include "Einstelltexte.h"
 #include "Kartenbilder.h"
+#include "Qtext.h"
 #include "engine/Karte.h"
 
 namespace table {
+
+QVBoxLayout* eingerueckt() {
+    auto* spalte = new QVBoxLayout;
+    spalte->setContentsMargins(16, 0, 0, 0);
+    return spalte;
+}
+
+QGroupBox* gruppe(const char* titel, QWidget* eltern) { return new QGroupBox(t(titel), eltern); }
+
+QLabel* hinweis(const char* text, QWidget* eltern) {
+    auto* l = new QLabel(t(text), eltern);
+    l->setWordWrap(true);
+    QFont f = l->font();
+    f.setItalic(true);
+    l->setFont(f);
+    return l;
+}
+
 
 Wahlgruppe::Wahlgruppe(QWidget* parent) : QWidget(parent), gruppe_(new QButtonGroup(this)), gitter_(new QGridLayout(this)) {
     gitter_->setContentsMargins(0, 0, 0, 0);

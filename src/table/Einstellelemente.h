@@ -7,10 +7,18 @@
 
 class QButtonGroup;
 class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QVBoxLayout;
 
 namespace table {
 
 class Kartenbilder;
+
+// Layout pieces the settings pages share.
+QVBoxLayout* eingerueckt();  // options that depend on the one above stand a little to the right
+QGroupBox* gruppe(const char* titel, QWidget* eltern);
+QLabel* hinweis(const char* text, QWidget* eltern);  // a note in italics
 
 // Radio buttons, one per value; rows of a grid, so other controls can sit beside them.
 class Wahlgruppe : public QWidget {

@@ -16,14 +16,6 @@ constexpr int KreuzBube = kartencode(Kreuz, Bube);
 
 std::size_t fi(int farbe) { return static_cast<std::size_t>(farbe); }
 
-// The first card of `karten` that is smallest by `schluessel`.
-template <class F>
-int kleinsteNach(const std::vector<int>& karten, F schluessel) {
-    int beste = 0;
-    for (int p : karten)
-        if (beste == 0 || schluessel(p) < schluessel(beste)) beste = p;
-    return beste;
-}
 }  // namespace
 
 Lage::Lage(const Spiel& s, const Tischwissen& w, Sitz sitz, const Melder& m, Zufallsquelle& z)
@@ -205,14 +197,14 @@ bool Lage::kannUebernehmen(Sitz x, int farbe, int s) const {
 
 bool Lage::nagelt(int pos) const {
     if (!schlaegt(pos)) return false;
-    for (const Sitz x : nachMir())
-        if (kannUebernehmen(x, karte(pos).farbe, staerke(pos))) return false;
+    for (int i = anzahl + 2; i <= 4; ++i)
+        if (kannUebernehmen(spiel.stich.aufspieler.plus(i - 1), karte(pos).farbe, staerke(pos))) return false;
     return true;
 }
 
 bool Lage::genagelt() const {
-    for (const Sitz x : nachMir())
-        if (kannUebernehmen(x)) return false;
+    for (int i = anzahl + 2; i <= 4; ++i)
+        if (kannUebernehmen(spiel.stich.aufspieler.plus(i - 1))) return false;
     return true;
 }
 
@@ -248,54 +240,53 @@ bool Lage::hochzeitsKlaerstich() const {
 }
 
 int Lage::kleinsteAbwurf() const {
-    const auto farbkarten = auswahl([this](int p) { return !istTrumpf(p); });
-    if (farbkarten.empty()) return praktWertkleinsterTrumpf();
     // Few Augen first; of equals the shorter suit, so it runs out sooner.
-    return kleinsteNach(farbkarten, [this](int p) {
+    const int farbkarte = kleinsteErlaubte([this](int p) { return !istTrumpf(p); }, [this](int p) {
         return std::make_tuple(augen(p), anzahlInHand(karte(p).farbe), staerke(p));
     });
+    return farbkarte != 0 ? farbkarte : praktWertkleinsterTrumpf();
 }
 
 int Lage::hoechsteAbwurf() const {
-    const auto farbkarten = auswahl([this](int p) { return !istTrumpf(p); });
-    if (farbkarten.empty()) return praktWerthoechsterTrumpf();
     // A Zehn before an As of the same worth class: the As may still win its own trick.
-    return kleinsteNach(farbkarten, [this](int p) {
+    const int farbkarte = kleinsteErlaubte([this](int p) { return !istTrumpf(p); }, [this](int p) {
         return std::make_tuple(-std::min(augen(p), 10), staerke(p), anzahlInHand(karte(p).farbe));
     });
+    return farbkarte != 0 ? farbkarte : praktWerthoechsterTrumpf();
 }
 
 int Lage::kleinsteDerFarbe(int farbe) const {
-    return kleinsteNach(auswahl([&](int p) { return karte(p).farbe == farbe; }),
-                        [this](int p) { return std::make_tuple(staerke(p), augen(p)); });
+    return kleinsteErlaubte([&](int p) { return karte(p).farbe == farbe; },
+                            [this](int p) { return std::make_tuple(staerke(p), augen(p)); });
 }
 
 int Lage::hoechsteDerFarbe(int farbe) const {
-    return kleinsteNach(auswahl([&](int p) { return karte(p).farbe == farbe; }),
-                        [this](int p) { return std::make_tuple(-staerke(p), -augen(p)); });
+    return kleinsteErlaubte([&](int p) { return karte(p).farbe == farbe; },
+                            [this](int p) { return std::make_tuple(-staerke(p), -augen(p)); });
 }
 
 int Lage::kleinsterSchlagender() const {
-    return kleinsteNach(auswahl([this](int p) { return schlaegt(p); }),
-                        [this](int p) { return std::make_tuple(staerke(p), augen(p)); });
+    return kleinsteErlaubte([this](int p) { return schlaegt(p); },
+                            [this](int p) { return std::make_tuple(staerke(p), augen(p)); });
 }
 
 int Lage::praktWertkleinsterTrumpf() const {
-    return kleinsteNach(auswahl([this](int p) { return istTrumpf(p); }),
-                        [this](int p) { return std::make_tuple(istZaehler(p), staerke(p)); });
+    return kleinsteErlaubte([this](int p) { return istTrumpf(p); },
+                            [this](int p) { return std::make_tuple(istZaehler(p), staerke(p)); });
 }
 
 int Lage::praktWerthoechsterTrumpf() const {
-    const auto klein = auswahl([this](int p) {
-        return istTrumpf(p) && !istFigur(p) && !istDolle(p) && !istSchwein(p) && !istJoker(karte(p).code);
-    });
-    if (!klein.empty())
-        return kleinsteNach(klein, [this](int p) { return std::make_tuple(-augen(p), staerke(p)); });
-    return kleinsteNach(auswahl([this](int p) { return istTrumpf(p); }), [this](int p) { return staerke(p); });
+    const int klein = kleinsteErlaubte(
+        [this](int p) {
+            return istTrumpf(p) && !istFigur(p) && !istDolle(p) && !istSchwein(p) && !istJoker(karte(p).code);
+        },
+        [this](int p) { return std::make_tuple(-augen(p), staerke(p)); });
+    if (klein != 0) return klein;
+    return kleinsteErlaubte([this](int p) { return istTrumpf(p); }, [this](int p) { return staerke(p); });
 }
 
 int Lage::hoechsterTrumpf() const {
-    return kleinsteNach(auswahl([this](int p) { return istTrumpf(p); }), [this](int p) { return -staerke(p); });
+    return kleinsteErlaubte([this](int p) { return istTrumpf(p); }, [this](int p) { return -staerke(p); });
 }
 
 int Lage::zufaellige(const std::vector<int>& karten) const {

@@ -135,6 +135,15 @@ public:
             if (test(p)) v.push_back(p);
         return v;
     }
+    // The first legal card passing the test with the smallest key, 0 if none: a choice
+    // without building the list of candidates.
+    template <class Test, class Schluessel>
+    int kleinsteErlaubte(Test&& test, Schluessel&& schluessel) const {
+        int beste = 0;
+        for (int p : erlaubt)
+            if (test(p) && (beste == 0 || schluessel(p) < schluessel(beste))) beste = p;
+        return beste;
+    }
     // Own hand in display order: trumps from the top, then Kreuz, Pik, Herz, Karo.
     std::vector<int> sortierteHand() const;
 

@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* daten, std::size_t gro
     players::Tischwissen wissen(zufall);
     ablauf.beobachterHinzufuegen(&wissen);
     players::Spielerumgebung umgebung{wissen, zufall, nullptr};
-    const auto spieler = players::spielerErzeugen("regelwerk", umgebung);
+    const auto spieler = players::spielerErzeugen("zufall", umgebung);
     Leitung leitung;
     net::Gastkern gast(spiel, ablauf, leitung, "Fuzz");
     // Pieces of varying length, as reads arrive; while a card "flies" every third piece.

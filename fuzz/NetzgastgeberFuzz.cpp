@@ -28,7 +28,7 @@ struct Spieler {
     Spieler(engine::Spielablauf& ablauf, engine::Zufallsquelle& zufall) : wissen(zufall) {
         ablauf.beobachterHinzufuegen(&wissen);
         players::Spielerumgebung umgebung{wissen, zufall, nullptr};
-        for (auto& s : sitze) s = players::spielerErzeugen("regelwerk", umgebung);
+        for (auto& s : sitze) s = players::spielerErzeugen("zufall", umgebung);
     }
     engine::ProSitz<engine::Entscheider*> entscheider() const {
         engine::ProSitz<engine::Entscheider*> e;

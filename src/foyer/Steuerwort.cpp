@@ -52,7 +52,9 @@ std::optional<Tischangebot> tinfoLesen(std::string_view text) {
     a.adresse = std::string(adresse);
     a.port = *port;
     a.frei = *frei;
-    a.regeln = utf8Anfang(anzeigetext(ohneFuehrendeBlanks(text)), MaxRegeltext);
+    // Blanks that stood behind dropped control characters lead no more than others do.
+    const std::string regeln = anzeigetext(text);
+    a.regeln = utf8Anfang(ohneFuehrendeBlanks(regeln), MaxRegeltext);
     return a;
 }
 

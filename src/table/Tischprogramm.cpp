@@ -133,23 +133,34 @@ void Tischprogramm::starten(const QString& ladeDatei) {
             steuerung_.neuePartie();
         return;
     }
-    if (einstellungen_.willkommen != 0) willkommen_zeigen();
-    else steuerung_.neuePartie();
+    if (einstellungen_.willkommen != 0) return willkommen_zeigen();
+    // Without the welcome screen a Partie left unfinished is still offered, Yes first.
+    if (fortsetzbar()) {
+        QMessageBox frage(QMessageBox::Question, QString::fromUtf8(texte::Fenstertitel),
+                          t(texte::LetztePartieFortsetzen), QMessageBox::Yes | QMessageBox::No, &hfo_);
+        frage.setDefaultButton(QMessageBox::Yes);
+        if (frage.exec() == QMessageBox::Yes && sicherungLaden()) return;
+    }
+    steuerung_.neuePartie();
+}
+
+bool Tischprogramm::fortsetzbar() const { return !sicherung_.isEmpty() && QFile::exists(sicherung_); }
+
+// True when the automatic save was a Partie to play on.
+bool Tischprogramm::sicherungLaden() {
+    partieLaden(sicherung_);
+    return steuerung_.spiel().ablauf.phase != engine::Spielphase::Geben || steuerung_.ablauf().partieLaeuft();
 }
 
 void Tischprogramm::willkommen_zeigen() {
-    const bool fortsetzbar = !sicherung_.isEmpty() && QFile::exists(sicherung_);
     Willkommen willkommen(einstellungen_.regeln, &hfo_);
-    willkommen.fortsetzenAnbieten(fortsetzbar);
+    willkommen.fortsetzenAnbieten(fortsetzbar());
     willkommen.exec();
     if (willkommen.wahl() == Willkommen::Wahl::Laden) {
         m_partie_laden_Click();
         if (steuerung_.spiel().ablauf.phase != engine::Spielphase::Geben || steuerung_.ablauf().partieLaeuft()) return;
     }
-    if (willkommen.wahl() == Willkommen::Wahl::Fortsetzen) {
-        partieLaden(sicherung_);
-        if (steuerung_.spiel().ablauf.phase != engine::Spielphase::Geben || steuerung_.ablauf().partieLaeuft()) return;
-    }
+    if (willkommen.wahl() == Willkommen::Wahl::Fortsetzen && sicherungLaden()) return;
     steuerung_.neuePartie();
 }
 

@@ -71,6 +71,8 @@ signals:
 
 public slots:
     void willkommen_zeigen();
+    bool fortsetzbar() const;
+    bool sicherungLaden();
     void einstellungenZeigen();
     void regelnZeigen();
     void m_partie_speichern_Click();

@@ -5,6 +5,8 @@ namespace table::texte {
 
 inline constexpr char Fenstertitel[] = "Trumpona";
 inline constexpr char Partieende[] = " - P a r t i e e n d e";
+inline constexpr char LetztePartieFortsetzen[] =
+    "Die letzte Partie wurde nicht zu Ende gespielt. Möchten Sie sie fortsetzen?";
 inline constexpr char Aufloesungswarnung[] = "Wir empfehlen eine Bildschirmauflösung von mindestens800*600 Punkten!";
 
 // Menus.

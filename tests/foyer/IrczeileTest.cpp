@@ -84,6 +84,13 @@ TEST(Steuerwort, TinfoNurMitAllenGueltigenFeldern) {
     EXPECT_EQ(tinfoText(a), "*TINFO* 3 192.168.1.20 7001 2 48 Karten, Ende nach 12 Spielen");
     EXPECT_EQ(tinfoLesen(tinfoText(a)), a);
     EXPECT_EQ(tinfoLesen("*TINFO* 1 ::1 65535 0")->adresse, "::1");
+    // What is read is what the window shows and the host would write again.
+    for (const std::string& regeln : {std::string("\x03" "4,12  Solo"), std::string("\0\0 Solo", 7), std::string("\x01 \x02Solo")}) {
+        const auto gelesen = tinfoLesen("*TINFO* 1 h 7001 3 " + regeln);
+        ASSERT_TRUE(gelesen) << regeln;
+        EXPECT_EQ(gelesen->regeln, "Solo") << regeln;
+        EXPECT_EQ(tinfoLesen(tinfoText(*gelesen)), gelesen) << regeln;
+    }
     for (const char* kaputt : {"*TINFO*", "*TINFO* 3 host 7001", "*TINFO* 3 host 0 2", "*TINFO* 3 host 65536 2",
                                "*TINFO* 3 host 7001 4", "*TINFO* -3 host 7001 2", "*TINFO* 3 ho;st 7001 2",
                                "*TINFO* 3 -host 7001 2", "*TINFO*3 host 7001 2", "TINFO 3 host 7001 2"})

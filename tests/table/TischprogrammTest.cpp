@@ -31,6 +31,7 @@
 #include "table/Tischansicht.h"
 #include "table/Tischprogramm.h"
 #include "table/Tischsteuerung.h"
+#include "table/Tischtexte.h"
 #include "table/Verteilungsdialog.h"
 #include "table/Willkommen.h"
 
@@ -111,6 +112,8 @@ protected:
         }
         FAIL() << "Ziel nicht erreicht";
     }
+
+    void unfertigePartie(const QString& sicherung, engine::Spiel& gesichert);
 
     QTemporaryDir ordner_;
     QTimer pumpe_;
@@ -552,9 +555,9 @@ TEST_F(TischprogrammTest, BeendenFragtWaehrendDerPartie) {
 
 // The running Partie is always in the automatic save: after every card, gone at the
 // end of the Partie; the welcome screen offers to resume it.
-TEST_F(TischprogrammTest, AutomatischeSicherungUndFortsetzen) {
-    const QString sicherung = ordner_.filePath(QStringLiteral("daten/letzte-partie.dkp"));
-    engine::Spiel gesichert;
+// Plays a Partie of one game into its third trick and leaves it unfinished in the
+// automatic save; gives the game as it stood.
+void TischprogrammTest::unfertigePartie(const QString& sicherung, engine::Spiel& gesichert) {
     {
         Tisch t(ordner_.path());
         t.programm.setzeSicherungsdatei(sicherung);
@@ -571,6 +574,12 @@ TEST_F(TischprogrammTest, AutomatischeSicherungUndFortsetzen) {
         EXPECT_EQ(gelesen.spiel.stich, t.spiel().stich);
         gesichert = t.spiel();
     }
+}
+
+TEST_F(TischprogrammTest, AutomatischeSicherungUndFortsetzen) {
+    const QString sicherung = ordner_.filePath(QStringLiteral("daten/letzte-partie.dkp"));
+    engine::Spiel gesichert;
+    ASSERT_NO_FATAL_FAILURE(unfertigePartie(sicherung, gesichert));
     // The next start: "Letzte Partie fortsetzen" brings the table back as it was.
     Tisch t(ordner_.path(), 99);
     t.programm.setzeSicherungsdatei(sicherung);
@@ -597,6 +606,36 @@ TEST_F(TischprogrammTest, AutomatischeSicherungUndFortsetzen) {
     t.hfo.automatikAktion()->trigger();
     ASSERT_TRUE(beendet.wait(20000));
     EXPECT_FALSE(QFile::exists(sicherung));
+}
+
+// Without the welcome screen the unfinished Partie is asked for at the start: Yes
+// plays it on, No begins a new one.
+TEST_F(TischprogrammTest, OhneWillkommenWirdDieLetztePartieAngeboten) {
+    const QString sicherung = ordner_.filePath(QStringLiteral("daten/letzte-partie.dkp"));
+    for (const bool fortsetzen : {true, false}) {
+        engine::Spiel gesichert;
+        ASSERT_NO_FATAL_FAILURE(unfertigePartie(sicherung, gesichert));
+        Tisch t(ordner_.path(), 99);
+        t.programm.setzeSicherungsdatei(sicherung);
+        settings::Einstellungen e = t.programm.einstellungen();
+        e.willkommen = 0;
+        t.programm.EinstUebernehmen(e, t.programm.benutzer());
+        QString gefragt;
+        antworten_ = [&](QWidget* w) {
+            auto* frage = qobject_cast<QMessageBox*>(w);
+            if (!frage || !frage->text().contains(QStringLiteral("letzte Partie"))) return false;
+            gefragt = frage->text();
+            EXPECT_EQ(frage->defaultButton(), frage->button(QMessageBox::Yes));
+            frage->button(fortsetzen ? QMessageBox::Yes : QMessageBox::No)->click();
+            return true;
+        };
+        t.programm.starten();
+        antworten_ = nullptr;
+        EXPECT_EQ(gefragt.toStdString(), table::texte::LetztePartieFortsetzen);
+        ASSERT_TRUE(warten([&] { return t.hfo.tisch().kartenwahl() || t.spiel().sticheGespielt > 0; }));
+        EXPECT_EQ(t.spiel().sticheGespielt == gesichert.sticheGespielt && t.spiel().deck == gesichert.deck, fortsetzen)
+            << fortsetzen;
+    }
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ void Deck::staerkenBerechnen(int spieltyp) {
 namespace {
 
 // Types 1, 3, 4 and (one factor of 4 lower) 2.
-Rangierung farbspiel(int farbe, int rang, int spieltyp) {
+constexpr Rangierung farbspiel(int farbe, int rang, int spieltyp) {
     const int stufe = spieltyp == HerzSolo ? 4 : 1;
     if (farbe == Herz && rang == Zehn) return {spieltyp, StaerkeDolle};
     if (rang == Bube) {
@@ -56,7 +56,7 @@ Rangierung farbspiel(int farbe, int rang, int spieltyp) {
     return {farbe == spieltyp ? spieltyp : farbe, staerke};
 }
 
-Rangierung rangierungBerechnen(int code, int spieltyp) {
+constexpr Rangierung rangierungRechnen(int code, int spieltyp) {
     if (istJoker(code)) {
         return istFarbspiel(spieltyp) ? Rangierung{spieltyp, StaerkeJoker} : Rangierung{Karo, 1};
     }
@@ -99,18 +99,19 @@ Rangierung rangierungBerechnen(int code, int spieltyp) {
 
 }  // namespace
 
-Rangierung rangierung(int code, int spieltyp) {
-    // Asked for every card at every deal and by the solo estimates: looked up, not worked out.
-    static const auto tabelle = [] {
-        std::array<std::array<Rangierung, SoloOhneTrumpf + 1>, 26> t{};
-        for (int c = 1; c <= 25; ++c)
-            for (int typ = Normalspiel; typ <= SoloOhneTrumpf; ++typ)
-                t[static_cast<std::size_t>(c)][static_cast<std::size_t>(typ)] = rangierungBerechnen(c, typ);
-        return t;
-    }();
-    if (code < 1 || code > 25 || spieltyp < Normalspiel || spieltyp > SoloOhneTrumpf)
-        return rangierungBerechnen(code, spieltyp);
-    return tabelle[static_cast<std::size_t>(code)][static_cast<std::size_t>(spieltyp)];
-}
+namespace detail {
+
+Rangierung rangierungBerechnen(int code, int spieltyp) { return rangierungRechnen(code, spieltyp); }
+
+constinit const std::array<std::array<Rangierung, 9>, 26> rangtabelle = [] {
+    static_assert(Normalspiel == 1 && SoloOhneTrumpf == 8);
+    std::array<std::array<Rangierung, 9>, 26> t{};
+    for (int c = 1; c <= 25; ++c)
+        for (int typ = Normalspiel; typ <= SoloOhneTrumpf; ++typ)
+            t[static_cast<std::size_t>(c)][static_cast<std::size_t>(typ)] = rangierungRechnen(c, typ);
+    return t;
+}();
+
+}  // namespace detail
 
 }  // namespace engine

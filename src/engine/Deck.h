@@ -69,6 +69,16 @@ struct Rangierung {
     int farbe;
     int staerke;
 };
-Rangierung rangierung(int code, int spieltyp);
+namespace detail {
+Rangierung rangierungBerechnen(int code, int spieltyp);
+// Every code (1..25) in every game type (1..8).
+extern const std::array<std::array<Rangierung, 9>, 26> rangtabelle;
+}  // namespace detail
+
+// Asked for every card at every deal and by the solo estimates: looked up, not worked out.
+inline Rangierung rangierung(int code, int spieltyp) {
+    if (code < 1 || code > 25 || spieltyp < 1 || spieltyp > 8) return detail::rangierungBerechnen(code, spieltyp);
+    return detail::rangtabelle[static_cast<std::size_t>(code)][static_cast<std::size_t>(spieltyp)];
+}
 
 }  // namespace engine

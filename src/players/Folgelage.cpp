@@ -1,6 +1,7 @@
 #include "Folgelage.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <tuple>
 #include <utility>
@@ -197,8 +198,7 @@ int Folge::trumpfRang(int pos) const {
     else
         klasse = 1;
     // Rank within the class by strength (powers of two up to 2^26).
-    int stufe = 0;
-    for (int v = s; v > 1; v >>= 1) ++stufe;
+    const int stufe = s > 1 ? static_cast<int>(std::bit_width(static_cast<unsigned>(s))) - 1 : 0;
     return klasse * 64 + stufe;
 }
 

@@ -16,14 +16,6 @@ constexpr int KreuzBube = kartencode(Kreuz, Bube);
 
 std::size_t fi(int farbe) { return static_cast<std::size_t>(farbe); }
 
-// The first card of `karten` that is smallest by `schluessel`.
-template <class F>
-int kleinsteNach(const std::vector<int>& karten, F schluessel) {
-    int beste = 0;
-    for (int p : karten)
-        if (beste == 0 || schluessel(p) < schluessel(beste)) beste = p;
-    return beste;
-}
 }  // namespace
 
 Lage::Lage(const Spiel& s, const Tischwissen& w, Sitz sitz, const Melder& m, Zufallsquelle& z)
@@ -86,40 +78,42 @@ bool Lage::istFigur(int pos) const { return karte(pos).wert == WertDame || karte
 
 void Lage::werteBerechnen() {
     const Deck& deck = spiel.deck;
-    const bool schweinOffen = schweinOeffentlich();
-    // Only a Schwein or a Supersau counts otherwise than the deck says.
-    const bool erhoeht = (trumpf == Normalspiel && spiel.schweineHalter) ||
-                         (spiel.supersauHalter == ich && istFarbspiel(trumpf));
-    const int erste = deck.erstePosition(ich);
-    const int letzte = deck.letztePosition(ich);
-    for (int p = 1; p <= deck.kartenanzahl(); ++p) {
-        const auto& k = deck[p];
-        const int s = erhoeht ? staerkeBerechnen(p, schweinOffen) : k.staerke;
-        staerken_[static_cast<std::size_t>(p)] = s;
-        if (k.status != InHand) continue;
-        const bool meine = p >= erste && p <= letzte;
-        const auto f = fi(k.farbe);
-        if (k.farbe == trumpf) {
-            ++werte.truempfeImSpiel;
-            werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterTrumpfImSpiel, s);
-            if (meine) {
-                ++werte.eigeneTruempfe;
-                werte.hoechsterEigenerTrumpf = std::max(werte.hoechsterEigenerTrumpf, s);
-            } else {
-                ++werte.fremdeTruempfe;
-                werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, s);
+    erhoeht_ = (trumpf == Normalspiel && spiel.schweineHalter) || (spiel.supersauHalter == ich && istFarbspiel(trumpf));
+    if (erhoeht_) {
+        const bool schweinOffen = schweinOeffentlich();
+        for (int p = 1; p <= deck.kartenanzahl(); ++p)
+            staerken_[static_cast<std::size_t>(p)] = staerkeBerechnen(p, schweinOffen);
+    }
+    const int groesse = deck.handgroesse();
+    for (const Sitz x : alleSitze) {
+        const bool meine = x == ich;
+        const int erste = deck.erstePosition(x);
+        for (int p = erste; p < erste + groesse; ++p) {
+            const auto& k = deck[p];
+            if (k.status != InHand) continue;
+            const int s = staerke(p);
+            const auto f = fi(k.farbe);
+            if (k.farbe == trumpf) {
+                ++werte.truempfeImSpiel;
+                werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterTrumpfImSpiel, s);
+                if (meine) {
+                    ++werte.eigeneTruempfe;
+                    werte.hoechsterEigenerTrumpf = std::max(werte.hoechsterEigenerTrumpf, s);
+                } else {
+                    ++werte.fremdeTruempfe;
+                    werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, s);
+                }
             }
-        }
-        werte.hoechsteOffene[f] = std::max(werte.hoechsteOffene[f], s);
-        if (meine) {
-            ++werte.eigeneAnzahl[f];
-            if (werte.eigeneBeste[f] == 0 || s > staerken_[static_cast<std::size_t>(werte.eigeneBeste[f])])
-                werte.eigeneBeste[f] = p;
-        } else {
-            ++werte.fremdeAnzahl[f];
-            werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], s);
-            if (istDolle(p)) ++werte.fremdeDollen;
-            if (istJoker(k.code)) werte.jokerFremd = true;
+            werte.hoechsteOffene[f] = std::max(werte.hoechsteOffene[f], s);
+            if (meine) {
+                ++werte.eigeneAnzahl[f];
+                if (werte.eigeneBeste[f] == 0 || s > staerke(werte.eigeneBeste[f])) werte.eigeneBeste[f] = p;
+            } else {
+                ++werte.fremdeAnzahl[f];
+                werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], s);
+                if (istDolle(p)) ++werte.fremdeDollen;
+                if (istJoker(k.code)) werte.jokerFremd = true;
+            }
         }
     }
     if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {
@@ -203,14 +197,14 @@ bool Lage::kannUebernehmen(Sitz x, int farbe, int s) const {
 
 bool Lage::nagelt(int pos) const {
     if (!schlaegt(pos)) return false;
-    for (const Sitz x : nachMir())
-        if (kannUebernehmen(x, karte(pos).farbe, staerke(pos))) return false;
+    for (int i = anzahl + 2; i <= 4; ++i)
+        if (kannUebernehmen(spiel.stich.aufspieler.plus(i - 1), karte(pos).farbe, staerke(pos))) return false;
     return true;
 }
 
 bool Lage::genagelt() const {
-    for (const Sitz x : nachMir())
-        if (kannUebernehmen(x)) return false;
+    for (int i = anzahl + 2; i <= 4; ++i)
+        if (kannUebernehmen(spiel.stich.aufspieler.plus(i - 1))) return false;
     return true;
 }
 
@@ -246,54 +240,53 @@ bool Lage::hochzeitsKlaerstich() const {
 }
 
 int Lage::kleinsteAbwurf() const {
-    const auto farbkarten = auswahl([this](int p) { return !istTrumpf(p); });
-    if (farbkarten.empty()) return praktWertkleinsterTrumpf();
     // Few Augen first; of equals the shorter suit, so it runs out sooner.
-    return kleinsteNach(farbkarten, [this](int p) {
+    const int farbkarte = kleinsteErlaubte([this](int p) { return !istTrumpf(p); }, [this](int p) {
         return std::make_tuple(augen(p), anzahlInHand(karte(p).farbe), staerke(p));
     });
+    return farbkarte != 0 ? farbkarte : praktWertkleinsterTrumpf();
 }
 
 int Lage::hoechsteAbwurf() const {
-    const auto farbkarten = auswahl([this](int p) { return !istTrumpf(p); });
-    if (farbkarten.empty()) return praktWerthoechsterTrumpf();
     // A Zehn before an As of the same worth class: the As may still win its own trick.
-    return kleinsteNach(farbkarten, [this](int p) {
+    const int farbkarte = kleinsteErlaubte([this](int p) { return !istTrumpf(p); }, [this](int p) {
         return std::make_tuple(-std::min(augen(p), 10), staerke(p), anzahlInHand(karte(p).farbe));
     });
+    return farbkarte != 0 ? farbkarte : praktWerthoechsterTrumpf();
 }
 
 int Lage::kleinsteDerFarbe(int farbe) const {
-    return kleinsteNach(auswahl([&](int p) { return karte(p).farbe == farbe; }),
-                        [this](int p) { return std::make_tuple(staerke(p), augen(p)); });
+    return kleinsteErlaubte([&](int p) { return karte(p).farbe == farbe; },
+                            [this](int p) { return std::make_tuple(staerke(p), augen(p)); });
 }
 
 int Lage::hoechsteDerFarbe(int farbe) const {
-    return kleinsteNach(auswahl([&](int p) { return karte(p).farbe == farbe; }),
-                        [this](int p) { return std::make_tuple(-staerke(p), -augen(p)); });
+    return kleinsteErlaubte([&](int p) { return karte(p).farbe == farbe; },
+                            [this](int p) { return std::make_tuple(-staerke(p), -augen(p)); });
 }
 
 int Lage::kleinsterSchlagender() const {
-    return kleinsteNach(auswahl([this](int p) { return schlaegt(p); }),
-                        [this](int p) { return std::make_tuple(staerke(p), augen(p)); });
+    return kleinsteErlaubte([this](int p) { return schlaegt(p); },
+                            [this](int p) { return std::make_tuple(staerke(p), augen(p)); });
 }
 
 int Lage::praktWertkleinsterTrumpf() const {
-    return kleinsteNach(auswahl([this](int p) { return istTrumpf(p); }),
-                        [this](int p) { return std::make_tuple(istZaehler(p), staerke(p)); });
+    return kleinsteErlaubte([this](int p) { return istTrumpf(p); },
+                            [this](int p) { return std::make_tuple(istZaehler(p), staerke(p)); });
 }
 
 int Lage::praktWerthoechsterTrumpf() const {
-    const auto klein = auswahl([this](int p) {
-        return istTrumpf(p) && !istFigur(p) && !istDolle(p) && !istSchwein(p) && !istJoker(karte(p).code);
-    });
-    if (!klein.empty())
-        return kleinsteNach(klein, [this](int p) { return std::make_tuple(-augen(p), staerke(p)); });
-    return kleinsteNach(auswahl([this](int p) { return istTrumpf(p); }), [this](int p) { return staerke(p); });
+    const int klein = kleinsteErlaubte(
+        [this](int p) {
+            return istTrumpf(p) && !istFigur(p) && !istDolle(p) && !istSchwein(p) && !istJoker(karte(p).code);
+        },
+        [this](int p) { return std::make_tuple(-augen(p), staerke(p)); });
+    if (klein != 0) return klein;
+    return kleinsteErlaubte([this](int p) { return istTrumpf(p); }, [this](int p) { return staerke(p); });
 }
 
 int Lage::hoechsterTrumpf() const {
-    return kleinsteNach(auswahl([this](int p) { return istTrumpf(p); }), [this](int p) { return -staerke(p); });
+    return kleinsteErlaubte([this](int p) { return istTrumpf(p); }, [this](int p) { return -staerke(p); });
 }
 
 int Lage::zufaellige(const std::vector<int>& karten) const {

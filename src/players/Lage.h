@@ -67,7 +67,9 @@ public:
     const engine::Kartenposition& karte(int pos) const { return spiel.deck[pos]; }
     bool istTrumpf(int pos) const { return spiel.deck[pos].farbe == trumpf; }
     // Strength as it will count: a known Schwein counts raised before it is played.
-    int staerke(int pos) const { return staerken_[static_cast<std::size_t>(pos)]; }
+    int staerke(int pos) const {
+        return erhoeht_ ? staerken_[static_cast<std::size_t>(pos)] : spiel.deck[pos].staerke;
+    }
     int augen(int pos) const { return spiel.deck[pos].augen; }
     bool istDolle(int pos) const;
     // Special points count for neither card in a solo (known to the soloist when silent).
@@ -133,6 +135,15 @@ public:
             if (test(p)) v.push_back(p);
         return v;
     }
+    // The first legal card passing the test with the smallest key, 0 if none: a choice
+    // without building the list of candidates.
+    template <class Test, class Schluessel>
+    int kleinsteErlaubte(Test&& test, Schluessel&& schluessel) const {
+        int beste = 0;
+        for (int p : erlaubt)
+            if (test(p) && (beste == 0 || schluessel(p) < schluessel(beste))) beste = p;
+        return beste;
+    }
     // Own hand in display order: trumps from the top, then Kreuz, Pik, Herz, Karo.
     std::vector<int> sortierteHand() const;
 
@@ -147,7 +158,9 @@ private:
     int staerkeBerechnen(int pos, bool schweinOffen) const;
     void werteBerechnen();
 
-    std::array<int, engine::MaxPositionen + 1> staerken_{};
+    // Only a Schwein or a Supersau counts otherwise than the deck says; then staerken_ holds every card.
+    bool erhoeht_ = false;
+    std::array<int, engine::MaxPositionen + 1> staerken_;
 };
 
 }  // namespace players

@@ -1,5 +1,6 @@
 #include "Regelwerk.h"
 
+#include <optional>
 #include <string>
 
 #include "Kontra.h"
@@ -32,8 +33,8 @@ int Regelwerk::karteWaehlen(const Spiel& spiel, Sitz sitz) {
     // The view of the announcement check just made, if it was for this very state; used once.
     Vorlage vorlage = std::move(vorlage_);
     vorlage_ = Vorlage{};
-    std::unique_ptr<Lage> neu;
-    if (!passt(vorlage, spiel, sitz)) neu = std::make_unique<Lage>(spiel, wissen_, sitz, melder, zufall_);
+    std::optional<Lage> neu;
+    if (!passt(vorlage, spiel, sitz)) neu.emplace(spiel, wissen_, sitz, melder, zufall_);
     const Lage& lage = neu ? *neu : *vorlage.lage;
     if (lage.erlaubt.empty()) return 0;
     int karte = lage.anzahl == 0 ? ausspielWaehlen(lage) : (art_.bedienen ? art_.bedienen : bedienenWaehlen)(lage);

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <functional>
 #include <span>
 #include <vector>
 
@@ -45,48 +44,6 @@ Deck deckFuer(const Spiel& spiel, Sitz sitz, int art) {
         schweine = obenauf(KaroAs);
     if (!schweine && istFarbspiel(art) && r.supersau && r.zweiSchweine) obenauf(kartencode(art, As));
     return d;
-}
-
-// Suit and strength per position as deckFuer would give them, for the cards in hand
-// only and without copying the deck: the estimate runs for every kind at every deal.
-struct Rangliste {
-    std::array<int, MaxPositionen + 1> farbe{};
-    std::array<int, MaxPositionen + 1> staerke{};
-};
-
-Rangliste ranglisteFuer(const Spiel& spiel, Sitz sitz, int art) {
-    Rangliste r;
-    const Deck& deck = spiel.deck;
-    const bool eigenes = laufend(spiel) && art == spiel.spieltyp;
-    for (int p = 1; p <= deck.kartenanzahl(); ++p) {
-        const Kartenposition& k = deck[p];
-        if (k.status != InHand) continue;
-        const auto i = static_cast<std::size_t>(p);
-        if (eigenes) {
-            r.farbe[i] = k.farbe;
-            r.staerke[i] = k.staerke;
-        } else {
-            const Rangierung rang = rangierung(k.code, art);
-            r.farbe[i] = rang.farbe;
-            r.staerke[i] = rang.staerke;
-        }
-    }
-    if (eigenes) return r;
-    const Regeln& regeln = spiel.regeln;
-    auto obenauf = [&](int code) {
-        int inHand = 0;
-        for (int p = deck.erstePosition(sitz); p <= deck.letztePosition(sitz); ++p)
-            inHand += deck[p].code == code && deck[p].status == InHand;
-        if (inHand < 2) return false;
-        for (int p = deck.erstePosition(sitz); p <= deck.letztePosition(sitz); ++p)
-            if (deck[p].code == code && deck[p].status == InHand) r.staerke[static_cast<std::size_t>(p)] = StaerkeJoker;
-        return true;
-    };
-    bool schweine = false;
-    if (art == Normalspiel && regeln.zweiSchweine && (regeln.schweineBTrSolo || hatBeideKreuzDamen(spiel, sitz)))
-        schweine = obenauf(KaroAs);
-    if (!schweine && istFarbspiel(art) && regeln.supersau && regeln.zweiSchweine) obenauf(kartencode(art, As));
-    return r;
 }
 
 double binom(int n, int k) {
@@ -158,87 +115,191 @@ int abziehrunden(int fremde, const std::array<int, 3>& n, double sicherheit) {
     return bekannt;
 }
 
+namespace {
+
+// Suit and strength of a card as deckFuer would give them, for the cards in hand only
+// and without copying the deck: the estimate runs for every kind at every deal.
+struct Solokarte {
+    int farbe;
+    int staerke;
+    int augen;
+};
+
+// The own cards one by one, the other hands only as far as the estimate asks.
+struct Solohaende {
+    std::array<Solokarte, MaxPositionen / 4> eigene;
+    std::size_t nEigene = 0;
+    std::array<int, 3> groessen{};  // the other hands in seat order after `sitz`
+    int fremdeTruempfe = 0;
+    int hoechsterFremder = 0;              // strength of their best trump
+    std::array<int, 9> besteFremde{};      // their best strength per suit
+    std::array<int, 12> fettNachAugen{};   // their plain cards counted by Augen
+};
+
+constexpr auto augenJeCode = [] {
+    std::array<int, 26> a{};
+    for (int code = 1; code <= 25; ++code) a[static_cast<std::size_t>(code)] = istJoker(code) ? 0 : augenVonRang(rangVonCode(code));
+    return a;
+}();
+int augenVonCode(int code) { return augenJeCode[static_cast<std::size_t>(code)]; }
+
+void fremdeKarteZaehlen(Solohaende& h, int art, int farbe, int staerke, int augen, int anzahl) {
+    auto& b = h.besteFremde[static_cast<std::size_t>(farbe)];
+    b = std::max(b, staerke);
+    if (farbe == art) {
+        h.fremdeTruempfe += anzahl;
+        h.hoechsterFremder = std::max(h.hoechsterFremder, staerke);
+    } else {
+        h.fettNachAugen[static_cast<std::size_t>(augen)] += anzahl;
+    }
+}
+
+// The running game's kind: the deck knows every card's suit and strength.
+Solohaende solohaendeDesSpiels(const Spiel& spiel, Sitz sitz, int art) {
+    Solohaende h;
+    const Deck& d = spiel.deck;
+    const int groesse = d.handgroesse();
+    for (int i = 0; i <= 3; ++i) {
+        const Sitz s = sitz.plus(i);
+        const int erste = d.erstePosition(s);
+        for (int p = erste; p < erste + groesse; ++p) {
+            const Kartenposition& k = d[p];
+            if (k.status != InHand) continue;
+            if (i == 0) {
+                h.eigene[h.nEigene++] = Solokarte{k.farbe, k.staerke, k.augen};
+                continue;
+            }
+            ++h.groessen[static_cast<std::size_t>(i - 1)];
+            fremdeKarteZaehlen(h, art, k.farbe, k.staerke, k.augen, 1);
+        }
+    }
+    return h;
+}
+
+}  // namespace
+
+Solokarten solokarten(const Spiel& spiel, Sitz sitz) {
+    Solokarten c;
+    const Deck& d = spiel.deck;
+    const int groesse = d.handgroesse();
+    for (int i = 0; i <= 3; ++i) {
+        const int erste = d.erstePosition(sitz.plus(i));
+        for (int p = erste; p < erste + groesse; ++p) {
+            const Kartenposition& k = d[p];
+            if (k.status != InHand) continue;
+            if (i == 0) {
+                c.eigene[c.nEigene++] = k.code;
+            } else {
+                ++c.groessen[static_cast<std::size_t>(i - 1)];
+                ++c.fremdeJeCode[static_cast<std::size_t>(k.code)];
+            }
+        }
+    }
+    c.beideKreuzDamen = hatBeideKreuzDamen(spiel, sitz);
+    return c;
+}
+
+namespace {
+
+// Another kind than the running game's: suits and strengths from the codes, the own
+// Schweine and an own Supersau at the top (another seat's are unknown).
+Solohaende solohaendeDerArt(const Solokarten& c, const Regeln& regeln, int art) {
+    Solohaende h;
+    h.groessen = c.groessen;
+    for (std::size_t i = 0; i < c.nEigene; ++i) {
+        const int code = c.eigene[i];
+        const Rangierung rang = rangierung(code, art);
+        h.eigene[i] = Solokarte{rang.farbe, rang.staerke, augenVonCode(code)};
+    }
+    h.nEigene = c.nEigene;
+    for (int code = 1; code < static_cast<int>(c.fremdeJeCode.size()); ++code) {
+        const int n = c.fremdeJeCode[static_cast<std::size_t>(code)];
+        if (n == 0) continue;
+        const Rangierung rang = rangierung(code, art);
+        fremdeKarteZaehlen(h, art, rang.farbe, rang.staerke, augenVonCode(code), n);
+    }
+    auto obenauf = [&](int code) {
+        const auto ende = c.eigene.begin() + static_cast<std::ptrdiff_t>(c.nEigene);
+        if (std::count(c.eigene.begin(), ende, code) < 2) return false;
+        for (std::size_t i = 0; i < c.nEigene; ++i)
+            if (c.eigene[i] == code) h.eigene[i].staerke = StaerkeJoker;
+        return true;
+    };
+    bool schweine = false;
+    if (art == Normalspiel && regeln.zweiSchweine && (regeln.schweineBTrSolo || c.beideKreuzDamen))
+        schweine = obenauf(KaroAs);
+    if (!schweine && istFarbspiel(art) && regeln.supersau && regeln.zweiSchweine) obenauf(kartencode(art, As));
+    return h;
+}
+
+Soloschaetzung schaetzen(const Solohaende& h, const Regeln& r, int art, bool amAufspiel, double sicherheit);
+
+}  // namespace
+
 int truempfeIn(const Spiel& spiel, Sitz sitz, int art) {
-    const Deck d = deckFuer(spiel, sitz, art);
-    const std::vector<int> hand = handkarten(spiel, sitz);
-    return static_cast<int>(std::count_if(hand.begin(), hand.end(), [&](int p) { return d[p].farbe == art; }));
+    const Deck& d = spiel.deck;
+    const bool eigenes = laufend(spiel) && art == spiel.spieltyp;
+    int n = 0;
+    for (int p = d.erstePosition(sitz); p <= d.letztePosition(sitz); ++p)
+        if (d[p].status == InHand) n += (eigenes ? d[p].farbe : rangierung(d[p].code, art).farbe) == art;
+    return n;
 }
 
 bool spieltZuerstAus(const Spiel& spiel, Sitz sitz) { return sitz == spiel.vorhand || spiel.regeln.vhSolo; }
 
 Soloschaetzung soloSchaetzen(const Spiel& spiel, Sitz sitz, int art, bool amAufspiel, double sicherheit) {
-    const Deck& d = spiel.deck;
-    const Rangliste rang = ranglisteFuer(spiel, sitz, art);
-    auto farbe = [&](int p) { return rang.farbe[static_cast<std::size_t>(p)]; };
-    auto staerke = [&](int p) { return rang.staerke[static_cast<std::size_t>(p)]; };
-    const Regeln& r = spiel.regeln;
-    // Fixed arrays: the reservations and the announcement rules ask this for every kind.
-    std::array<int, MaxPositionen> eigene{};
-    std::array<int, MaxPositionen> fremde{};
-    std::size_t nEigene = 0;
-    std::size_t nFremde = 0;
-    std::array<int, 3> groessen{};
-    int fremdeTruempfe = 0;
-    int hoechsterFremder = 0;
-    for (int i = 0; i <= 3; ++i) {
-        const Sitz s = sitz.plus(i);
-        for (int p = d.erstePosition(s); p <= d.letztePosition(s); ++p) {
-            if (d[p].status != InHand) continue;
-            if (i == 0) {
-                eigene[nEigene++] = p;
-                continue;
-            }
-            ++groessen[static_cast<std::size_t>(i - 1)];
-            fremde[nFremde++] = p;
-            if (farbe(p) != art) continue;
-            ++fremdeTruempfe;
-            hoechsterFremder = std::max(hoechsterFremder, staerke(p));
-        }
-    }
-    const auto eigeneKarten = std::span(eigene).first(nEigene);
-    const auto fremdeKarten = std::span(fremde).first(nFremde);
+    if (laufend(spiel) && art == spiel.spieltyp)
+        return schaetzen(solohaendeDesSpiels(spiel, sitz, art), spiel.regeln, art, amAufspiel, sicherheit);
+    return soloSchaetzen(solokarten(spiel, sitz), spiel.regeln, art, amAufspiel, sicherheit);
+}
+
+Soloschaetzung soloSchaetzen(const Solokarten& karten, const Regeln& regeln, int art, bool amAufspiel,
+                             double sicherheit) {
+    return schaetzen(solohaendeDerArt(karten, regeln, art), regeln, art, amAufspiel, sicherheit);
+}
+
+namespace {
+Soloschaetzung schaetzen(const Solohaende& h, const Regeln& r, int art, bool amAufspiel, double sicherheit) {
+    const auto eigeneKarten = std::span(h.eigene).first(h.nEigene);
 
     Soloschaetzung e;
     if (art == SoloOhneTrumpf) {
         e.abziehen = e.sicher = true;
     } else {
-        const int oben = static_cast<int>(std::count_if(eigeneKarten.begin(), eigeneKarten.end(), [&](int p) {
-            return farbe(p) == art && schlaegtGefuehrt(staerke(p), hoechsterFremder, r);
+        const int oben = static_cast<int>(std::count_if(eigeneKarten.begin(), eigeneKarten.end(), [&](const Solokarte& k) {
+            return k.farbe == art && schlaegtGefuehrt(k.staerke, h.hoechsterFremder, r);
         }));
-        e.sicher = oben >= fremdeTruempfe;
-        e.abziehen = oben >= abziehrunden(fremdeTruempfe, groessen, sicherheit);
+        e.sicher = oben >= h.fremdeTruempfe;
+        e.abziehen = oben >= abziehrunden(h.fremdeTruempfe, h.groessen, sicherheit);
     }
     if (!e.abziehen || !amAufspiel) {
-        e.stiche = static_cast<int>(nEigene);
+        e.stiche = static_cast<int>(h.nEigene);
         e.augen = NichtSicher;
         return e;
     }
 
     // Trumps pulled: a side card loses when another hand holds a stronger one of its suit
     // (or an equal second Dolle); the others' best card per suit tells.
-    std::array<int, 9> besteFremde{};
-    for (int q : fremdeKarten) {
-        auto& b = besteFremde[static_cast<std::size_t>(farbe(q))];
-        b = std::max(b, staerke(q));
-    }
     int verlierer = 0;
-    for (int p : eigeneKarten) {
-        if (farbe(p) == art) continue;
-        const int fremd = besteFremde[static_cast<std::size_t>(farbe(p))];
-        const bool geschlagen = fremd > 0 && !schlaegtGefuehrt(staerke(p), fremd, r);
+    for (const Solokarte& k : eigeneKarten) {
+        if (k.farbe == art) continue;
+        const int fremd = h.besteFremde[static_cast<std::size_t>(k.farbe)];
+        const bool geschlagen = fremd > 0 && !schlaegtGefuehrt(k.staerke, fremd, r);
         if (!geschlagen) continue;
         ++verlierer;
-        e.augen += d[p].augen;
+        e.augen += k.augen;
     }
-    std::array<int, MaxPositionen> fett{};
-    std::size_t nFett = 0;
-    for (int q : fremdeKarten)
-        if (farbe(q) != art) fett[nFett++] = d[q].augen;
-    std::sort(fett.begin(), fett.begin() + static_cast<std::ptrdiff_t>(nFett), std::greater<>());
-    for (std::size_t i = 0; i < nFett && i < static_cast<std::size_t>(3 * verlierer); ++i) e.augen += fett[i];
+    // Into each lost trick the others throw their fattest plain cards.
+    int zuGeben = 3 * verlierer;
+    for (int a = 11; a >= 0 && zuGeben > 0; --a) {
+        const int n = std::min(zuGeben, h.fettNachAugen[static_cast<std::size_t>(a)]);
+        e.augen += n * a;
+        zuGeben -= n;
+    }
     e.stiche = verlierer;
     return e;
 }
+}  // namespace
 
 Soloarten soloartenAusRegeln(const Regeln& regeln) {
     Soloarten arten{};
@@ -247,7 +308,13 @@ Soloarten soloartenAusRegeln(const Regeln& regeln) {
 }
 
 int soloBewerten(const Spiel& spiel, Sitz sitz, int art, Solotabellen& tabellen) {
-    const Soloschaetzung e = soloSchaetzen(spiel, sitz, art, spieltZuerstAus(spiel, sitz));
+    return soloBewerten(spiel, solokarten(spiel, sitz), sitz, art, tabellen);
+}
+
+int soloBewerten(const Spiel& spiel, const Solokarten& karten, Sitz sitz, int art, Solotabellen& tabellen) {
+    const Soloschaetzung e = laufend(spiel) && art == spiel.spieltyp
+                                 ? soloSchaetzen(spiel, sitz, art, spieltZuerstAus(spiel, sitz))
+                                 : soloSchaetzen(karten, spiel.regeln, art, spieltZuerstAus(spiel, sitz));
     const auto i = static_cast<std::size_t>(art);
     tabellen.stichVerlust[sitz][i] = e.stiche;
     tabellen.augenVerlust[sitz][i] = e.augen;
@@ -256,9 +323,10 @@ int soloBewerten(const Spiel& spiel, Sitz sitz, int art, Solotabellen& tabellen)
 
 int sicheresSolo(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen) {
     ProSpielart wert{};
+    const Solokarten karten = solokarten(spiel, sitz);
     for (int art = 1; art <= AnzahlSpielarten; ++art) {
         const auto i = static_cast<std::size_t>(art);
-        wert[i] = soloBewerten(spiel, sitz, art, tabellen);
+        wert[i] = soloBewerten(spiel, karten, sitz, art, tabellen);
         if (!arten[i]) wert[i] = tabellen.augenVerlust[sitz][i] = NieSicher;
     }
     int beste = 0;
@@ -343,7 +411,8 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     return farbe;
 }
 
-int zaehle(const Deck& d, const std::vector<int>& hand, const std::function<bool(const Kartenposition&)>& test) {
+template <class Test>
+int zaehle(const Deck& d, const std::vector<int>& hand, const Test& test) {
     return static_cast<int>(std::count_if(hand.begin(), hand.end(), [&](int p) { return test(d[p]); }));
 }
 

@@ -29,10 +29,23 @@ struct Soloschaetzung {
     int augen = 0;          // Augen lost: 240 when it cannot pull or does not lead
 };
 
+// The cards still in hand, by code: the own one by one, the others' counted.
+struct Solokarten {
+    std::array<int, engine::MaxPositionen / 4> eigene{};
+    std::size_t nEigene = 0;
+    std::array<int, 26> fremdeJeCode{};
+    std::array<int, 3> groessen{};  // the other hands in seat order after the seat
+    bool beideKreuzDamen = false;
+};
+Solokarten solokarten(const Spiel& spiel, Sitz sitz);
+
 // The estimate behind SoloBewerten. `amAufspiel`: the seat leads (so it pulls trumps at once).
 // After pulling, trumps and side cards that no other card beats win; every other side
 // card loses a trick, into which the others throw their fattest plain cards.
 Soloschaetzung soloSchaetzen(const Spiel& spiel, Sitz sitz, int art, bool amAufspiel,
+                             double sicherheit = AbziehenSolo);
+// ... for a kind that is not the running game's, from the cards gathered once.
+Soloschaetzung soloSchaetzen(const Solokarten& karten, const engine::Regeln& regeln, int art, bool amAufspiel,
                              double sicherheit = AbziehenSolo);
 
 // The rounds of trump leads after which, with the given confidence, none of the other
@@ -51,6 +64,7 @@ Soloarten soloartenAusRegeln(const engine::Regeln& regeln);
 
 // SoloBewerten: stores the estimates of the kind and returns its Augen loss.
 int soloBewerten(const Spiel& spiel, Sitz sitz, int art, Solotabellen& tabellen);
+int soloBewerten(const Spiel& spiel, const Solokarten& karten, Sitz sitz, int art, Solotabellen& tabellen);
 // SicheresSolo: the safe kind with the least loss (ties: more trumps, then Herz), or 0.
 int sicheresSolo(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen);
 

@@ -82,6 +82,38 @@ TEST(Soloschaetzung, VerlustNachTrumpfabziehen) {
     }
 }
 
+// The running game's kind is read from the deck, any other kind from the card codes
+// gathered once: without Schweine both must see the same hands, also with cards played
+// and from every seat.
+TEST(Soloschaetzung, DeckUndKartencodesGleich) {
+    const std::vector<int> sitz1{KreuzDame, PikDame, HerzBube, Dolle, KaroAs, KaroZehn,
+                                 KreuzAs, KreuzZehn, PikKoenig, HerzAs, HerzNeun, KaroNeun};
+    const auto voll = mitRest(sitz1);
+    auto gespielt = voll;  // hands of 12, 9, 7 and 10 cards left
+    gespielt[1].resize(9);
+    gespielt[2].resize(7);
+    gespielt[3].resize(10);
+    for (const auto& haende : {voll, gespielt})
+        for (int art = engine::Normalspiel; art <= engine::SoloOhneTrumpf; ++art) {
+            Situation s(art, haende);
+            s.spiel.regeln.zweiSchweine = false;
+            s.spiel.regeln.supersau = false;
+            s.spiel.ablauf.phase = engine::Spielphase::Kartenspiel;
+            for (const Sitz sitz : engine::alleSitze)
+                for (const bool amAufspiel : {true, false}) {
+                    const auto ausDeck = players::soloSchaetzen(s.spiel, sitz, art, amAufspiel);
+                    const auto ausCodes =
+                        players::soloSchaetzen(players::solokarten(s.spiel, sitz), s.spiel.regeln, art, amAufspiel);
+                    const std::string fall = "Art " + std::to_string(art) + " Sitz " + std::to_string(sitz.nr()) +
+                                             " Karten " + std::to_string(haende[1].size());
+                    EXPECT_EQ(ausDeck.abziehen, ausCodes.abziehen) << fall;
+                    EXPECT_EQ(ausDeck.sicher, ausCodes.sicher) << fall;
+                    EXPECT_EQ(ausDeck.stiche, ausCodes.stiche) << fall;
+                    EXPECT_EQ(ausDeck.augen, ausCodes.augen) << fall;
+                }
+        }
+}
+
 TEST(Soloschaetzung, Abziehrunden) {
     struct Zeile { int fremde; std::array<int, 3> haende; double sicherheit; int runden; };
     const Zeile zeilen[] = {

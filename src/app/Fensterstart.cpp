@@ -140,9 +140,12 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     };
     QObject::connect(hfo.foyerAktion(), &QAction::triggered, &hfo, foyerOeffnen);
     // The program ends with its table window: the foyer closes too (and leaves the server).
+    // Qt's own end on the last window closed does not come while any other top-level
+    // window still counts as open, which once left a program running without a window.
     QObject::connect(&hfo, &table::Hauptfenster::beendenGewuenscht, [&] {
         if (foyerprogramm) foyerprogramm->fenster().close();
     });
+    QObject::connect(&hfo, &table::Hauptfenster::beendenGewuenscht, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     // A guest whose table is lost may go back to the foyer: the program starts anew into it.
     netz.setzeFoyerRueckkehr([&] { return foyer::insFoyerNeustarten(speicher); });
     const bool insFoyer = speicher.restartUebernehmen();

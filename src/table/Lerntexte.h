@@ -5,7 +5,7 @@ namespace table::lerntext {
 
 // Menus.
 inline constexpr char SpielverlaufMenue[] = "Spiel&verlauf...";
-inline constexpr char StatistikMenue[] = "S&tatistik...";
+inline constexpr char StatistikMenue[] = "St&atistik...";
 inline constexpr char AlleKartenZeigen[] = "Alle &Karten zeigen";
 inline constexpr char GespielteKartenMenue[] = "&Gespielte Karten";
 

@@ -4,8 +4,8 @@
 namespace table::turniertext {
 
 // Game menu.
-inline constexpr char TurnierpartieMenue[] = "&Turnierpartie...";
-inline constexpr char ErgebnisseMenue[] = "Turnier&ergebnisse senden...";
+inline constexpr char TurnierpartieMenue[] = "T&urnierpartie...";
+inline constexpr char ErgebnisseMenue[] = "Turnierergebnisse sen&den...";
 
 // Starting a tournament Partie.
 inline constexpr char TurnierTitel[] = "Turnierpartie";

@@ -1,3 +1,5 @@
+#include <QMap>
+#include <QMenu>
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
@@ -22,7 +24,7 @@ TEST(Hauptfenster, MenueeintraegeMitIhrenTexten) {
         {"m_ende", "&Ende"},
         {"m_partie_laden", "Partie &laden..."},
         {"m_partie_speichern", "Partie &speichern unter..."},
-        {"m_einstellungen", "&Einstellungen..."},
+        {"m_einstellungen", "E&instellungen..."},
         {"m_vollbild", "&Vollbild"},
         {"m_spielregeln", "&Spielregeln"},
         {"mnuSendebuffer", "&Netzprotokoll zeigen"},
@@ -96,6 +98,36 @@ TEST(Hauptfenster, LimitEintraegeMeldenIhrenCode) {
     ASSERT_EQ(limit.count(), 4);
     EXPECT_EQ(limit.at(0).first().toInt(), engine::LimitSchwarz);
     EXPECT_EQ(limit.at(3).first().toInt(), engine::Keine90);
+}
+
+// The letter after '&', lower case; none for a text without one.
+QChar kuerzel(const QString& text) {
+    for (qsizetype i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != QLatin1Char('&')) continue;
+        if (text[i + 1] == QLatin1Char('&')) { ++i; continue; }
+        return text[i + 1].toLower();
+    }
+    return {};
+}
+
+// Alt plus a letter reaches one entry of the menu bar and one item of each menu. The
+// two given texts of the game menu that share their letter are the one exception.
+TEST(Hauptfenster, TastenkuerzelEindeutig) {
+    table::Hauptfenster hfo;
+    const QStringList erlaubt{QStringLiteral("&Neue Partie"), QStringLiteral("&Netzprotokoll zeigen")};
+    QList<QWidget*> leisten{hfo.menuBar()};
+    for (auto* m : hfo.menuBar()->findChildren<QMenu*>()) leisten << m;
+    for (QWidget* leiste : leisten) {
+        QMap<QChar, QString> vergeben;
+        for (QAction* a : leiste->actions()) {
+            const QChar k = kuerzel(a->text());
+            if (k.isNull() || a->isSeparator()) continue;
+            const auto alt = vergeben.constFind(k);
+            if (alt != vergeben.constEnd() && !(erlaubt.contains(*alt) && erlaubt.contains(a->text())))
+                ADD_FAILURE() << "Alt+" << QString(k).toStdString() << ": " << alt->toStdString() << " / " << a->text().toStdString();
+            vergeben.insert(k, a->text());
+        }
+    }
 }
 
 }  // namespace

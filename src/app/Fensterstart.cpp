@@ -144,8 +144,8 @@ int spielStarten(const Aufruf& aufruf, int& argc, char** argv) {
     // window still counts as open, which once left a program running without a window.
     QObject::connect(&hfo, &table::Hauptfenster::beendenGewuenscht, [&] {
         if (foyerprogramm) foyerprogramm->fenster().close();
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     });
-    QObject::connect(&hfo, &table::Hauptfenster::beendenGewuenscht, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     // A guest whose table is lost may go back to the foyer: the program starts anew into it.
     netz.setzeFoyerRueckkehr([&] { return foyer::insFoyerNeustarten(speicher); });
     const bool insFoyer = speicher.restartUebernehmen();

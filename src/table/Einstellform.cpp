@@ -136,6 +136,14 @@ QCheckBox* Einstellform::schalter(const char* schluessel, const char* text, QWid
     return c;
 }
 
+QGroupBox* Einstellform::schaltergruppe(const char* titel, std::initializer_list<Schaltereintrag> eintraege,
+                                        QWidget* eltern) {
+    auto* g = gruppe(titel, eltern);
+    auto* liste = new QVBoxLayout(g);
+    for (const Schaltereintrag& e : eintraege) liste->addWidget(schalter(e.schluessel, e.text, g));
+    return g;
+}
+
 QComboBox* Einstellform::auswahl(const char* schluessel, const std::vector<std::pair<int, QString>>& werte,
                                  QWidget* eltern, std::function<int(int)> angleichen) {
     auto* c = new QComboBox(eltern);
@@ -271,16 +279,15 @@ void Einstellform::dollenGeaendert(int herzZehn) {
 QWidget* Einstellform::sonderpunkteSeite() {
     auto* seite = new QWidget(this);
     auto* spalte = new QVBoxLayout(seite);
-    auto* sopu = gruppe(Sonderpunkte, seite);
-    auto* liste = new QVBoxLayout(sopu);
-    liste->addWidget(schalter("Sopu_Fuchs", SopuFuchs, sopu));
-    liste->addWidget(schalter("Sopu_doppelfuchs", SopuDoppelfuchs, sopu));
-    liste->addWidget(schalter("Sopu_karlchen", SopuKarlchen, sopu));
-    liste->addWidget(schalter("Sopu_doppelkarlchen", SopuDoppelkarlchen, sopu));
-    liste->addWidget(schalter("Sopu_rupa_b_Solo", SopuRupaBSolo, sopu));
-    liste->addWidget(schalter("Sopu_Dollenschlag", SopuDollenschlag, sopu));
-    liste->addWidget(schalter("Sopu_Herzstich", SopuHerzstich, sopu));
-    spalte->addWidget(sopu);
+    spalte->addWidget(schaltergruppe(Sonderpunkte,
+                                     {{"Sopu_Fuchs", SopuFuchs},
+                                      {"Sopu_doppelfuchs", SopuDoppelfuchs},
+                                      {"Sopu_karlchen", SopuKarlchen},
+                                      {"Sopu_doppelkarlchen", SopuDoppelkarlchen},
+                                      {"Sopu_rupa_b_Solo", SopuRupaBSolo},
+                                      {"Sopu_Dollenschlag", SopuDollenschlag},
+                                      {"Sopu_Herzstich", SopuHerzstich}},
+                                     seite));
     spalte->addWidget(hinweis(ImmerSonderpunkte, seite));
 
     auto* schweine = gruppe(Schweine, seite);

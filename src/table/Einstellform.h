@@ -7,12 +7,14 @@
 #include <QDialog>
 #include <array>
 #include <functional>
+#include <initializer_list>
 #include <vector>
 
 #include "Benutzereinstellungen.h"
 #include "settings/Einstellungen.h"
 
 class QCheckBox;
+class QGroupBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -80,6 +82,12 @@ private:
     QWidget* soundSeite();
     QWidget* netzwerkSeite();
     QCheckBox* schalter(const char* schluessel, const char* text, QWidget* eltern);
+    struct Schaltereintrag {
+        const char* schluessel;
+        const char* text;
+    };
+    // A titled group of switches, one under the other.
+    QGroupBox* schaltergruppe(const char* titel, std::initializer_list<Schaltereintrag> eintraege, QWidget* eltern);
     QComboBox* auswahl(const char* schluessel, const std::vector<std::pair<int, QString>>& werte, QWidget* eltern,
                        std::function<int(int)> angleichen = {});
     void binden(const char* schluessel, QWidget* feld, std::function<int(int)> angleichen = {});

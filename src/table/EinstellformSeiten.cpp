@@ -158,11 +158,7 @@ QWidget* Einstellform::anzeigeSeite() {
 QWidget* Einstellform::soundSeite() {
     auto* seite = new QWidget(this);
     auto* spalte = new QVBoxLayout(seite);
-    auto* klang = gruppe(Klang, seite);
-    auto* liste = new QVBoxLayout(klang);
-    liste->addWidget(schalter("Sprachausgabe", Sprachausgabe, klang));
-    liste->addWidget(schalter("Geräusch", Geraeusch, klang));
-    liste->addWidget(schalter("Signal", Signal, klang));
+    auto* klang = schaltergruppe(Klang, {{"Sprachausgabe", Sprachausgabe}, {"Geräusch", Geraeusch}, {"Signal", Signal}}, seite);
     spalte->addWidget(klang);
     if (!umgebung_.kontext.tonVerfuegbar) {
         klang->setEnabled(false);

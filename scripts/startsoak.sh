@@ -65,7 +65,8 @@ for i in $(seq 1 "$starts"); do
   esac
   nach=$(( (i * 7919) % 2500 ))
   status=0
-  "${umgebung[@]}" XDG_CONFIG_HOME="$ordner" TRUMPONA_BEENDEN_NACH="$nach" \
+  # The data folder (automatic save) goes with the configuration folder, never the real one.
+  "${umgebung[@]}" XDG_CONFIG_HOME="$ordner" XDG_DATA_HOME="$ordner/daten" TRUMPONA_BEENDEN_NACH="$nach" \
     timeout -k 5 60 "$programm" >"$arbeit/ausgabe" 2>&1 || status=$?
   if [ "$status" -ne 0 ]; then
     fehler=$((fehler + 1))

@@ -4,11 +4,13 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QStandardPaths>
+#include <QStatusBar>
 #include <utility>
 
 #include "Dateiwahl.h"
@@ -30,6 +32,7 @@
 #include "savegame/Ladeablauf.h"
 #include "savegame/Partiespeicher.h"
 #include "savegame/Partietexte.h"
+#include "savegame/Sicherungsplatz.h"
 #include "settings/Benutzerspeicher.h"
 
 namespace table {
@@ -85,6 +88,25 @@ Tischprogramm::Tischprogramm(Hauptfenster& hfo, Tischsteuerung& steuerung, setti
         if (!sicherung_.isEmpty()) QFile::remove(sicherung_);
     });
     hfo_.setzeBeendenPruefung([this] { return beendenPruefen(); });
+}
+
+void Tischprogramm::setzeSicherungsdatei(const QString& pfad) {
+    platz_.reset();
+    if (!pfad.isEmpty()) platz_ = std::make_unique<savegame::Sicherungsplatz>(pfad);
+    sicherung_ = platz_ ? platz_->datei() : QString();
+    if (!sicherungshinweis_) {
+        sicherungshinweis_ = new QLabel(&hfo_);
+        sicherungshinweis_->setObjectName(QStringLiteral("labSicherung"));
+        hfo_.statusBar()->addPermanentWidget(sicherungshinweis_);
+    }
+    // Only a program that does not keep the one automatic save says so.
+    QString hinweis;
+    if (platz_ && platz_->nummer() > 1) hinweis = t(texte::SicherungGetrennt);
+    else if (platz_ && platz_->nummer() == 0)
+        hinweis = t(platz_->alleBelegt() ? texte::SicherungBelegt : texte::SicherungUnmoeglich);
+    sicherungshinweis_->setText(hinweis);
+    sicherungshinweis_->setToolTip(sicherung_.isEmpty() ? QString() : QDir::toNativeSeparators(sicherung_));
+    sicherungshinweis_->setVisible(!hinweis.isEmpty());
 }
 
 QString Tischprogramm::standardSicherungsdatei() {

@@ -12,6 +12,11 @@
 #include "savegame/Spielstand.h"
 #include "settings/Einstellungen.h"
 
+class QLabel;
+
+namespace savegame {
+class Sicherungsplatz;
+}
 namespace settings {
 class Benutzerspeicher;
 }
@@ -54,7 +59,10 @@ public:
 
     // The file that always holds the running Partie (empty: none is kept); the
     // welcome screen offers to resume it. The program's own lies in the data folder.
-    void setzeSicherungsdatei(const QString& pfad) { sicherung_ = pfad; }
+    // While another program of this user keeps its Partie there, this one keeps its
+    // own under a further name, or none when all are taken; the status line says so.
+    void setzeSicherungsdatei(const QString& pfad);
+    // The file this program keeps its Partie in (empty: none).
     const QString& sicherungsdatei() const { return sicherung_; }
     static QString standardSicherungsdatei();
 
@@ -99,7 +107,9 @@ private:
     std::unique_ptr<Lernhilfen> lernhilfen_;
     int tempostufe_ = -1;  // the "Tempo" last taken over
     bool manuellErlaubt_ = true;
+    std::unique_ptr<savegame::Sicherungsplatz> platz_;
     QString sicherung_;
+    QLabel* sicherungshinweis_ = nullptr;
     std::optional<savegame::Spielstand> letzterStand_;  // the last state a file can hold
     bool ohneFrageBeenden_ = false;                      // after a reset of the settings
 };

@@ -70,6 +70,10 @@ inline constexpr char BeendenSicherung[] = "Auch ohne Speichern können Sie sie 
 inline constexpr char BeendenSpeichern[] = "&Speichern...";
 inline constexpr char BeendenOhneSpeichern[] = "&Beenden";
 inline constexpr char BeendenAbbrechen[] = "&Abbrechen";
+// The status line of a program that does not keep the one automatic save.
+inline constexpr char SicherungGetrennt[] = "Trumpona läuft schon: diese Partie wird getrennt gesichert.";
+inline constexpr char SicherungBelegt[] = "Trumpona läuft schon mehrfach: diese Partie wird nicht automatisch gesichert.";
+inline constexpr char SicherungUnmoeglich[] = "Der Datenordner ist nicht beschreibbar: die Partie wird nicht automatisch gesichert.";
 
 // The welcome screen and the rules page.
 inline constexpr char WillkommenTitel[] = "Willkommen";

@@ -1,6 +1,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QDir>
 #include <QFile>
@@ -636,6 +637,37 @@ TEST_F(TischprogrammTest, OhneWillkommenWirdDieLetztePartieAngeboten) {
         EXPECT_EQ(t.spiel().sticheGespielt == gesichert.sticheGespielt && t.spiel().deck == gesichert.deck, fortsetzen)
             << fortsetzen;
     }
+}
+
+// A second program started while the first runs keeps its Partie under a name of its
+// own and says so in the status line; neither overwrites nor removes the other's.
+TEST_F(TischprogrammTest, ZweitesProgrammSichertGetrennt) {
+    const QString sicherung = ordner_.filePath(QStringLiteral("daten/letzte-partie.dkp"));
+    Tisch erster(ordner_.path());
+    erster.programm.setzeSicherungsdatei(sicherung);
+    erster.steuerung.neuePartie();
+    ASSERT_NO_FATAL_FAILURE(spielenBis(erster, [&] { return erster.spiel().sticheGespielt >= 1; }));
+    Tisch zweiter(ordner_.path(), 99);
+    zweiter.programm.setzeSicherungsdatei(sicherung);
+    EXPECT_EQ(zweiter.programm.sicherungsdatei(), ordner_.filePath(QStringLiteral("daten/letzte-partie-2.dkp")));
+    const auto* hinweis = zweiter.hfo.findChild<QLabel*>(QStringLiteral("labSicherung"));
+    ASSERT_TRUE(hinweis);
+    EXPECT_FALSE(hinweis->isHidden());
+    EXPECT_EQ(hinweis->text().toStdString(), table::texte::SicherungGetrennt);
+    EXPECT_TRUE(erster.hfo.findChild<QLabel*>(QStringLiteral("labSicherung"))->isHidden());
+    zweiter.steuerung.neuePartie();
+    ASSERT_NO_FATAL_FAILURE(spielenBis(zweiter, [&] { return zweiter.spiel().sticheGespielt >= 1; }));
+    testhilfe::bildAblegen(zweiter.hfo, QStringLiteral("sicherung-getrennt"));
+    ASSERT_NE(erster.spiel().deck, zweiter.spiel().deck);
+    const auto deckIn = [](const QString& pfad) {
+        savegame::Spielstand gelesen;
+        savegame::PartieLaden(pfad, gelesen);
+        return gelesen.spiel.deck;
+    };
+    EXPECT_EQ(deckIn(zweiter.programm.sicherungsdatei()), zweiter.spiel().deck);
+    // A new Partie in the second window throws away its own save, not the first one's.
+    emit zweiter.hfo.neuePartieGewuenscht();
+    EXPECT_EQ(deckIn(sicherung), erster.spiel().deck);
 }
 
 }  // namespace

@@ -338,7 +338,7 @@ int solistSollStechen(const Lage& l) {
 }
 
 int relativZufaellig(const Lage& l) {
-    const std::vector<int> hand = l.sortierteHand();
+    const Kartenliste hand = l.sortierteHand();
     if (l.wissen.stillerSolist == l.ich) {
         for (int p : hand) {
             if (l.istTrumpf(p) && l.augen(p) != 11 && (!l.istDolle(p) || l.spiel.regeln.herzZehn)) return p;

@@ -33,6 +33,15 @@ Augenstand augenstand(const Lage& l) {
     return a;
 }
 
+// Whether the seat's trumps could pull the others' at all; when not, the solo estimate
+// says NichtSicher and no rule below fires on it.
+bool soloDenkbar(const Lage& l, double sicherheit) {
+    if (l.trumpf == SoloOhneTrumpf) return true;
+    std::array<int, 3> groessen{};
+    for (std::size_t i = 0; i < groessen.size(); ++i) groessen[i] = l.werte.karten[l.ich.plus(static_cast<int>(i) + 1)];
+    return abziehenDenkbar(l.werte.eigeneTruempfe, l.werte.fremdeTruempfe, groessen, sicherheit);
+}
+
 int zaehleInHand(const Lage& l, bool (*test)(const Kartenposition&)) {
     int n = 0;
     for (int p : l.hand)
@@ -89,7 +98,7 @@ int ansagewert(const Lage& l) {
         const int eigene = l.werte.eigeneTruempfe;
         bool ueberlegen = true;
         for (const Sitz x : alleSitze)
-            if (x != l.ich && eigene - 1 < truempfeInHand(s, x)) ueberlegen = false;
+            if (x != l.ich && eigene - 1 < l.werte.truempfe[x]) ueberlegen = false;
         if (ueberlegen) w += 11 * eigene;
     }
     return w;
@@ -144,7 +153,7 @@ Ansagepruefung kontraPruefen(const Lage& l) {
         w = AnsageSicher;
         hart = true;
         l.melder.regel(verfahren::KontraPruefen, "Gewonnen", text::BereitsGewonnen);
-    } else if (l.trumpf != SoloOhneTrumpf || s.solist == l.ich) {
+    } else if ((l.trumpf != SoloOhneTrumpf || s.solist == l.ich) && soloDenkbar(l, AbziehenSolo)) {
         // The others end below what they need against us: 240 - noetig + 1.
         const int verlust = soloSchaetzen(s, l.ich, l.trumpf, spieltZuerstAus(s, l.ich)).augen;
         if (verlust + augen.andere <= 240 - noetig) {
@@ -169,6 +178,7 @@ std::optional<int> limitPruefen(const Lage& l) {
     if (l.anzahl != 0 || s.sticheGespielt == 0 || l.eigenePartei() == ParteiUnbekannt) return std::nullopt;
     for (const Sitz x : alleSitze)
         if (x != l.ich && l.glaube(x) == ParteiUnbekannt) return std::nullopt;
+    if (!soloDenkbar(l, AbziehenLimit)) return std::nullopt;
     const Soloschaetzung e = soloSchaetzen(s, l.ich, l.trumpf, true, AbziehenLimit);
     if (!e.abziehen) return std::nullopt;
     int gegnerAugen = 0;

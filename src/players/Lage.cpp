@@ -20,15 +20,13 @@ std::size_t fi(int farbe) { return static_cast<std::size_t>(farbe); }
 
 Lage::Lage(const Spiel& s, const Tischwissen& w, Sitz sitz, const Melder& m, Zufallsquelle& z)
     : spiel(s), wissen(w), ich(sitz), melder(m), zufall(z), trumpf(s.spieltyp) {
-    hand = handkarten(spiel, ich);
+    werteBerechnen();
     erlaubt = hand;
     if (spiel.stich.anzahl > 0) {
         // Who holds the suit to follow must follow it (the engine's rule, without a second pass).
         const int f = spiel.stich.farbeZuBedienen;
-        if (std::any_of(hand.begin(), hand.end(), [&](int p) { return spiel.deck[p].farbe == f; }))
-            std::erase_if(erlaubt, [&](int p) { return spiel.deck[p].farbe != f; });
+        if (werte.eigeneAnzahl[fi(f)] > 0) erlaubt.behalten([&](int p) { return spiel.deck[p].farbe == f; });
     }
-    werteBerechnen();
 
     const Deck& deck = spiel.deck;
     const Stich& stich = spiel.stich;
@@ -78,42 +76,77 @@ bool Lage::istFigur(int pos) const { return karte(pos).wert == WertDame || karte
 
 void Lage::werteBerechnen() {
     const Deck& deck = spiel.deck;
-    erhoeht_ = (trumpf == Normalspiel && spiel.schweineHalter) || (spiel.supersauHalter == ich && istFarbspiel(trumpf));
-    if (erhoeht_) {
-        const bool schweinOffen = schweinOeffentlich();
-        for (int p = 1; p <= deck.kartenanzahl(); ++p)
-            staerken_[static_cast<std::size_t>(p)] = staerkeBerechnen(p, schweinOffen);
-    }
+    // Only the trump Asse can be raised, as Schweine or as a Supersau.
+    const bool schwein = trumpf == Normalspiel && spiel.schweineHalter;
+    const bool supersau = spiel.supersauHalter == ich && istFarbspiel(trumpf);
+    const int erhoehbar = schwein || supersau ? kartencode(trumpf, As) : -1;
+    const bool schweinOffen = schwein && schweinOeffentlich();
+    std::size_t erhoehte = 0;
+    auto staerkeVon = [&](int p, const Kartenposition& k) {
+        if (k.code != erhoehbar) return k.staerke;
+        const int st = staerkeBerechnen(p, schweinOffen);
+        if (st != k.staerke && erhoehte < erhoeht_.size()) erhoeht_[erhoehte++] = p;
+        return st;
+    };
+
+    // The other hands without a branch per card: which cards were played follows no pattern.
+    struct Handwerte {
+        int truempfe = 0;
+        int hoechsterTrumpf = 0;
+        int dollen = 0;
+        bool joker = false;
+        std::array<int, AnzahlFarben> anzahl{};
+        std::array<int, AnzahlFarben> hoechste{};
+        bool operator==(const Handwerte&) const = default;
+    };
+    ProSitz<Handwerte> hw;
+    std::array<int, AnzahlFarben> besteEigene;
+    besteEigene.fill(-1);
     const int groesse = deck.handgroesse();
     for (const Sitz x : alleSitze) {
+        Handwerte& h = hw[x];
         const bool meine = x == ich;
         const int erste = deck.erstePosition(x);
         for (int p = erste; p < erste + groesse; ++p) {
             const auto& k = deck[p];
-            if (k.status != InHand) continue;
-            const int s = staerke(p);
+            const bool da = k.status == InHand;
+            const int st = staerkeVon(p, k) & -static_cast<int>(da);
             const auto f = fi(k.farbe);
-            if (k.farbe == trumpf) {
-                ++werte.truempfeImSpiel;
-                werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterTrumpfImSpiel, s);
-                if (meine) {
-                    ++werte.eigeneTruempfe;
-                    werte.hoechsterEigenerTrumpf = std::max(werte.hoechsterEigenerTrumpf, s);
-                } else {
-                    ++werte.fremdeTruempfe;
-                    werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, s);
-                }
-            }
-            werte.hoechsteOffene[f] = std::max(werte.hoechsteOffene[f], s);
-            if (meine) {
-                ++werte.eigeneAnzahl[f];
-                if (werte.eigeneBeste[f] == 0 || s > staerke(werte.eigeneBeste[f])) werte.eigeneBeste[f] = p;
-            } else {
-                ++werte.fremdeAnzahl[f];
-                werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], s);
-                if (istDolle(p)) ++werte.fremdeDollen;
-                if (istJoker(k.code)) werte.jokerFremd = true;
-            }
+            const bool trumpfDa = da & (k.farbe == trumpf);
+            h.anzahl[f] += da;
+            h.hoechste[f] = std::max(h.hoechste[f], st);
+            h.truempfe += trumpfDa;
+            h.hoechsterTrumpf = std::max(h.hoechsterTrumpf, trumpfDa ? st : 0);
+            h.dollen += trumpfDa & (k.code == DolleCode);
+            h.joker |= da & istJoker(k.code);
+            if (!meine) continue;
+            hand.anhaengenFalls(p, da);
+            const bool besser = da & (st > besteEigene[f]);
+            besteEigene[f] = besser ? st : besteEigene[f];
+            werte.eigeneBeste[f] = besser ? p : werte.eigeneBeste[f];
+        }
+    }
+    for (const Sitz x : alleSitze) {
+        const Handwerte& h = hw[x];
+        werte.truempfe[x] = h.truempfe;
+        for (std::size_t f = 0; f < AnzahlFarben; ++f) werte.karten[x] += h.anzahl[f];
+        werte.truempfeImSpiel += h.truempfe;
+        werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterTrumpfImSpiel, h.hoechsterTrumpf);
+        for (std::size_t f = 0; f < AnzahlFarben; ++f)
+            werte.hoechsteOffene[f] = std::max(werte.hoechsteOffene[f], h.hoechste[f]);
+        if (x == ich) {
+            werte.eigeneTruempfe = h.truempfe;
+            werte.hoechsterEigenerTrumpf = h.hoechsterTrumpf;
+            werte.eigeneAnzahl = h.anzahl;
+            continue;
+        }
+        werte.fremdeTruempfe += h.truempfe;
+        werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, h.hoechsterTrumpf);
+        werte.fremdeDollen += h.dollen;
+        werte.jokerFremd = werte.jokerFremd || h.joker;
+        for (std::size_t f = 0; f < AnzahlFarben; ++f) {
+            werte.fremdeAnzahl[f] += h.anzahl[f];
+            werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], h.hoechste[f]);
         }
     }
     if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {
@@ -289,13 +322,13 @@ int Lage::hoechsterTrumpf() const {
     return kleinsteErlaubte([this](int p) { return istTrumpf(p); }, [this](int p) { return -staerke(p); });
 }
 
-int Lage::zufaellige(const std::vector<int>& karten) const {
+int Lage::zufaellige(const Kartenliste& karten) const {
     if (karten.empty()) return 0;
     return karten[static_cast<std::size_t>(zufall.ganzzahl(static_cast<int>(karten.size())))];
 }
 
-std::vector<int> Lage::sortierteHand() const {
-    std::vector<int> v = hand;
+Kartenliste Lage::sortierteHand() const {
+    Kartenliste v = hand;
     auto schluessel = [this](int p) {
         if (istTrumpf(p)) return std::make_tuple(0, -staerke(p));
         return std::make_tuple(5 - karte(p).farbe, -staerke(p));

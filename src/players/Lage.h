@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "Kartenliste.h"
 #include "Melder.h"
 #include "Tischwissen.h"
 #include "engine/Zufall.h"
@@ -28,6 +29,8 @@ struct Zugwerte {
     std::array<int, AnzahlFarben> eigeneBeste{};     // own best card (deck position)
     std::array<int, AnzahlFarben> eigeneAnzahl{};
     int langeFarbe = 0;                // the long suit of a fleischlos solo
+    engine::ProSitz<int> karten;       // cards in each hand
+    engine::ProSitz<int> truempfe;     // trumps in each hand
 };
 
 class Lage {
@@ -43,8 +46,8 @@ public:
     const int trumpf;                  // the game type
     Zugwerte werte;
 
-    std::vector<int> hand;             // own cards in hand (deck positions)
-    std::vector<int> erlaubt;          // the legal ones
+    Kartenliste hand;                  // own cards in hand (deck positions)
+    Kartenliste erlaubt;               // the legal ones
 
     // --- The trick so far (anzahl 0 when leading).
     int anzahl = 0;
@@ -68,7 +71,7 @@ public:
     bool istTrumpf(int pos) const { return spiel.deck[pos].farbe == trumpf; }
     // Strength as it will count: a known Schwein counts raised before it is played.
     int staerke(int pos) const {
-        return erhoeht_ ? staerken_[static_cast<std::size_t>(pos)] : spiel.deck[pos].staerke;
+        return pos == erhoeht_[0] || pos == erhoeht_[1] ? engine::StaerkeJoker : spiel.deck[pos].staerke;
     }
     int augen(int pos) const { return spiel.deck[pos].augen; }
     bool istDolle(int pos) const;
@@ -126,11 +129,11 @@ public:
     int praktWertkleinsterTrumpf() const;        // trump of least use and few Augen
     int praktWerthoechsterTrumpf() const;        // the small trump of most Augen
     int hoechsterTrumpf() const;
-    int zufaellige(const std::vector<int>& karten) const;
+    int zufaellige(const Kartenliste& karten) const;
     // Own cards matching a test, legal ones only.
     template <class F>
-    std::vector<int> auswahl(F&& test) const {
-        std::vector<int> v;
+    Kartenliste auswahl(F&& test) const {
+        Kartenliste v;
         for (int p : erlaubt)
             if (test(p)) v.push_back(p);
         return v;
@@ -145,7 +148,7 @@ public:
         return beste;
     }
     // Own hand in display order: trumps from the top, then Kreuz, Pik, Herz, Karo.
-    std::vector<int> sortierteHand() const;
+    Kartenliste sortierteHand() const;
 
     // The Schweine holder is known to every seat (announced, seat 1's own, or one played).
     bool schweinOeffentlich() const;
@@ -158,9 +161,9 @@ private:
     int staerkeBerechnen(int pos, bool schweinOffen) const;
     void werteBerechnen();
 
-    // Only a Schwein or a Supersau counts otherwise than the deck says; then staerken_ holds every card.
-    bool erhoeht_ = false;
-    std::array<int, engine::MaxPositionen + 1> staerken_;
+    // Only a Schwein or a Supersau counts otherwise than the deck says: the positions of
+    // such raised cards (at most the two trump Asse), -1 where there is none.
+    std::array<int, 2> erhoeht_{-1, -1};
 };
 
 }  // namespace players

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -253,8 +254,29 @@ Soloschaetzung soloSchaetzen(const Spiel& spiel, Sitz sitz, int art, bool amAufs
     return soloSchaetzen(solokarten(spiel, sitz), spiel.regeln, art, amAufspiel, sicherheit);
 }
 
+namespace {
+// Per kind the codes that are trump in it, as bits.
+const std::array<std::uint32_t, AnzahlSpielarten + 1> trumpfcodes = [] {
+    std::array<std::uint32_t, AnzahlSpielarten + 1> t{};
+    for (int art = 1; art <= AnzahlSpielarten; ++art)
+        for (int code = 1; code <= 25; ++code)
+            if (rangierung(code, art).farbe == art) t[static_cast<std::size_t>(art)] |= 1u << code;
+    return t;
+}();
+}  // namespace
+
 Soloschaetzung soloSchaetzen(const Solokarten& karten, const Regeln& regeln, int art, bool amAufspiel,
                              double sicherheit) {
+    if (art != SoloOhneTrumpf && art >= 1 && art <= AnzahlSpielarten) {
+        const std::uint32_t maske = trumpfcodes[static_cast<std::size_t>(art)];
+        int eigene = 0;
+        for (std::size_t i = 0; i < karten.nEigene; ++i) eigene += (maske >> karten.eigene[i]) & 1u;
+        int fremde = 0;
+        for (int code = 1; code <= 25; ++code)
+            if ((maske >> code) & 1u) fremde += karten.fremdeJeCode[static_cast<std::size_t>(code)];
+        if (!abziehenDenkbar(eigene, fremde, karten.groessen, sicherheit))
+            return {false, false, static_cast<int>(karten.nEigene), NichtSicher};
+    }
     return schaetzen(solohaendeDerArt(karten, regeln, art), regeln, art, amAufspiel, sicherheit);
 }
 

@@ -52,6 +52,12 @@ Soloschaetzung soloSchaetzen(const Solokarten& karten, const engine::Regeln& reg
 // hands (sizes as given) holds trump any more when `fremde` trumps are spread over them.
 int abziehrunden(int fremde, const std::array<int, 3>& handgroessen, double sicherheit);
 
+// Whether `eigene` trumps could pull `fremde` at all: when not, the estimate is the one of a
+// hand that cannot pull (NichtSicher), whatever the cards are. Most hands end here, cheaply.
+inline bool abziehenDenkbar(int eigene, int fremde, const std::array<int, 3>& handgroessen, double sicherheit) {
+    return eigene >= abziehrunden(fremde, handgroessen, sicherheit);
+}
+
 // Own trumps in the kind (cards in hand).
 int truempfeIn(const Spiel& spiel, Sitz sitz, int art);
 

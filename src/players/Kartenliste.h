@@ -1,0 +1,59 @@
+#pragma once
+// Deck positions of one hand, held without the heap: a seat never holds more than
+// twelve cards, and the rule book builds such lists at every decision.
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace players {
+
+class Kartenliste {
+public:
+    static constexpr std::size_t Kapazitaet = 12;
+    using value_type = int;
+    using const_iterator = const int*;
+
+    Kartenliste() = default;
+    template <class Bereich>
+    static Kartenliste aus(const Bereich& karten) {
+        Kartenliste l;
+        for (int p : karten) l.push_back(p);
+        return l;
+    }
+
+    // A card beyond a hand's size is dropped rather than written past the end.
+    void push_back(int pos) {
+        if (n_ < Kapazitaet) karten_[n_++] = pos;
+    }
+    // Appends the card when `ja`, without a branch on it (for lists built from a mask).
+    void anhaengenFalls(int pos, bool ja) {
+        if (n_ >= Kapazitaet) return;
+        karten_[n_] = pos;
+        n_ += ja;
+    }
+    // Keeps the cards that pass the test, in their order.
+    template <class Test>
+    void behalten(Test&& test) {
+        n_ = static_cast<std::size_t>(std::stable_partition(karten_.begin(), karten_.begin() + n_, test) -
+                                      karten_.begin());
+    }
+
+    std::size_t size() const { return n_; }
+    bool empty() const { return n_ == 0; }
+    const int* begin() const { return karten_.data(); }
+    const int* end() const { return karten_.data() + n_; }
+    int* begin() { return karten_.data(); }
+    int* end() { return karten_.data() + n_; }
+    int operator[](std::size_t i) const { return karten_[i]; }
+    int front() const { return karten_[0]; }
+    int back() const { return karten_[n_ - 1]; }
+    bool enthaelt(int pos) const { return std::find(begin(), end(), pos) != end(); }
+
+    bool operator==(const Kartenliste& o) const { return std::equal(begin(), end(), o.begin(), o.end()); }
+
+private:
+    std::array<int, Kapazitaet> karten_{};
+    std::size_t n_ = 0;
+};
+
+}  // namespace players

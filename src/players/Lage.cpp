@@ -89,66 +89,66 @@ void Lage::werteBerechnen() {
         return st;
     };
 
-    // The other hands without a branch per card: which cards were played follows no pattern.
-    struct Handwerte {
-        int truempfe = 0;
-        int hoechsterTrumpf = 0;
-        int dollen = 0;
-        bool joker = false;
-        std::array<int, AnzahlFarben> anzahl{};
-        std::array<int, AnzahlFarben> hoechste{};
-        bool operator==(const Handwerte&) const = default;
-    };
-    ProSitz<Handwerte> hw;
-    std::array<int, AnzahlFarben> besteEigene;
-    besteEigene.fill(-1);
+    // First the cards still in hand, gathered without a branch per card (which cards were
+    // played follows no pattern a processor could guess); then only those are looked at.
+    std::array<int, MaxPositionen> imSpiel;
+    std::array<int, 5> anfang{};
+    int n = 0;
     const int groesse = deck.handgroesse();
     for (const Sitz x : alleSitze) {
-        Handwerte& h = hw[x];
-        const bool meine = x == ich;
+        anfang[static_cast<std::size_t>(x.nr() - 1)] = n;
         const int erste = deck.erstePosition(x);
         for (int p = erste; p < erste + groesse; ++p) {
-            const auto& k = deck[p];
-            const bool da = k.status == InHand;
-            const int st = staerkeVon(p, k) & -static_cast<int>(da);
-            const auto f = fi(k.farbe);
-            const bool trumpfDa = da & (k.farbe == trumpf);
-            h.anzahl[f] += da;
-            h.hoechste[f] = std::max(h.hoechste[f], st);
-            h.truempfe += trumpfDa;
-            h.hoechsterTrumpf = std::max(h.hoechsterTrumpf, trumpfDa ? st : 0);
-            h.dollen += trumpfDa & (k.code == DolleCode);
-            h.joker |= da & istJoker(k.code);
-            if (!meine) continue;
-            hand.anhaengenFalls(p, da);
-            const bool besser = da & (st > besteEigene[f]);
-            besteEigene[f] = besser ? st : besteEigene[f];
-            werte.eigeneBeste[f] = besser ? p : werte.eigeneBeste[f];
+            imSpiel[static_cast<std::size_t>(n)] = p;
+            n += deck[p].status == InHand;
         }
     }
+    anfang[4] = n;
+
+    std::array<int, AnzahlFarben> besteEigene;
+    besteEigene.fill(-1);
     for (const Sitz x : alleSitze) {
-        const Handwerte& h = hw[x];
-        werte.truempfe[x] = h.truempfe;
-        for (std::size_t f = 0; f < AnzahlFarben; ++f) werte.karten[x] += h.anzahl[f];
-        werte.truempfeImSpiel += h.truempfe;
-        werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterTrumpfImSpiel, h.hoechsterTrumpf);
-        for (std::size_t f = 0; f < AnzahlFarben; ++f)
-            werte.hoechsteOffene[f] = std::max(werte.hoechsteOffene[f], h.hoechste[f]);
+        const auto i = static_cast<std::size_t>(x.nr() - 1);
+        werte.karten[x] = anfang[i + 1] - anfang[i];
+        int truempfe = 0;
         if (x == ich) {
-            werte.eigeneTruempfe = h.truempfe;
-            werte.hoechsterEigenerTrumpf = h.hoechsterTrumpf;
-            werte.eigeneAnzahl = h.anzahl;
-            continue;
+            for (int j = anfang[i]; j < anfang[i + 1]; ++j) {
+                const int p = imSpiel[static_cast<std::size_t>(j)];
+                const auto& k = deck[p];
+                const int st = staerkeVon(p, k);
+                const auto f = fi(k.farbe);
+                const bool istTrumpf = k.farbe == trumpf;
+                truempfe += istTrumpf;
+                werte.hoechsterEigenerTrumpf = std::max(werte.hoechsterEigenerTrumpf, istTrumpf ? st : 0);
+                ++werte.eigeneAnzahl[f];
+                hand.push_back(p);
+                const bool besser = st > besteEigene[f];
+                besteEigene[f] = besser ? st : besteEigene[f];
+                werte.eigeneBeste[f] = besser ? p : werte.eigeneBeste[f];
+            }
+            werte.eigeneTruempfe = truempfe;
+        } else {
+            for (int j = anfang[i]; j < anfang[i + 1]; ++j) {
+                const int p = imSpiel[static_cast<std::size_t>(j)];
+                const auto& k = deck[p];
+                const int st = staerkeVon(p, k);
+                const auto f = fi(k.farbe);
+                const bool istTrumpf = k.farbe == trumpf;
+                truempfe += istTrumpf;
+                werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, istTrumpf ? st : 0);
+                werte.fremdeDollen += istTrumpf & (k.code == DolleCode);
+                werte.jokerFremd |= istJoker(k.code);
+                ++werte.fremdeAnzahl[f];
+                werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], st);
+            }
+            werte.fremdeTruempfe += truempfe;
         }
-        werte.fremdeTruempfe += h.truempfe;
-        werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, h.hoechsterTrumpf);
-        werte.fremdeDollen += h.dollen;
-        werte.jokerFremd = werte.jokerFremd || h.joker;
-        for (std::size_t f = 0; f < AnzahlFarben; ++f) {
-            werte.fremdeAnzahl[f] += h.anzahl[f];
-            werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], h.hoechste[f]);
-        }
+        werte.truempfe[x] = truempfe;
     }
+    werte.truempfeImSpiel = werte.eigeneTruempfe + werte.fremdeTruempfe;
+    werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterEigenerTrumpf, werte.hoechsterFremderTrumpf);
+    for (std::size_t f = 0; f < AnzahlFarben; ++f)
+        werte.hoechsteOffene[f] = std::max(werte.hoechsteFremde[f], std::max(besteEigene[f], 0));
     if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {
         // The long suit chosen with the solo; a game taken over midway chooses afresh.
         werte.langeFarbe = wissen.solo.langeFarbe[ich];

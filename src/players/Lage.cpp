@@ -105,8 +105,18 @@ void Lage::werteBerechnen() {
     }
     anfang[4] = n;
 
+    // Summed in locals: stores into the members might alias the deck and would be kept in memory.
     std::array<int, AnzahlFarben> besteEigene;
     besteEigene.fill(-1);
+    std::array<int, AnzahlFarben> eigeneBeste{};
+    std::array<int, AnzahlFarben> eigeneAnzahl{};
+    std::array<int, AnzahlFarben> fremdeAnzahl{};
+    std::array<int, AnzahlFarben> hoechsteFremde{};
+    int hoechsterEigener = 0;
+    int hoechsterFremder = 0;
+    int fremdeTruempfe = 0;
+    int dollen = 0;
+    bool joker = false;
     for (const Sitz x : alleSitze) {
         const auto i = static_cast<std::size_t>(x.nr() - 1);
         werte.karten[x] = anfang[i + 1] - anfang[i];
@@ -119,12 +129,11 @@ void Lage::werteBerechnen() {
                 const auto f = fi(k.farbe);
                 const bool istTrumpf = k.farbe == trumpf;
                 truempfe += istTrumpf;
-                werte.hoechsterEigenerTrumpf = std::max(werte.hoechsterEigenerTrumpf, istTrumpf ? st : 0);
-                ++werte.eigeneAnzahl[f];
-                hand.push_back(p);
+                hoechsterEigener = std::max(hoechsterEigener, istTrumpf ? st : 0);
+                ++eigeneAnzahl[f];
                 const bool besser = st > besteEigene[f];
                 besteEigene[f] = besser ? st : besteEigene[f];
-                werte.eigeneBeste[f] = besser ? p : werte.eigeneBeste[f];
+                eigeneBeste[f] = besser ? p : eigeneBeste[f];
             }
             werte.eigeneTruempfe = truempfe;
         } else {
@@ -135,20 +144,31 @@ void Lage::werteBerechnen() {
                 const auto f = fi(k.farbe);
                 const bool istTrumpf = k.farbe == trumpf;
                 truempfe += istTrumpf;
-                werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, istTrumpf ? st : 0);
-                werte.fremdeDollen += istTrumpf & (k.code == DolleCode);
-                werte.jokerFremd |= istJoker(k.code);
-                ++werte.fremdeAnzahl[f];
-                werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], st);
+                hoechsterFremder = std::max(hoechsterFremder, istTrumpf ? st : 0);
+                dollen += istTrumpf & (k.code == DolleCode);
+                joker |= istJoker(k.code);
+                ++fremdeAnzahl[f];
+                hoechsteFremde[f] = std::max(hoechsteFremde[f], st);
             }
-            werte.fremdeTruempfe += truempfe;
+            fremdeTruempfe += truempfe;
         }
         werte.truempfe[x] = truempfe;
     }
-    werte.truempfeImSpiel = werte.eigeneTruempfe + werte.fremdeTruempfe;
-    werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterEigenerTrumpf, werte.hoechsterFremderTrumpf);
+    const auto ichIndex = static_cast<std::size_t>(ich.nr() - 1);
+    for (int j = anfang[ichIndex]; j < anfang[ichIndex + 1]; ++j) hand.push_back(imSpiel[static_cast<std::size_t>(j)]);
+    werte.eigeneBeste = eigeneBeste;
+    werte.eigeneAnzahl = eigeneAnzahl;
+    werte.fremdeAnzahl = fremdeAnzahl;
+    werte.hoechsteFremde = hoechsteFremde;
+    werte.hoechsterEigenerTrumpf = hoechsterEigener;
+    werte.hoechsterFremderTrumpf = hoechsterFremder;
+    werte.fremdeTruempfe = fremdeTruempfe;
+    werte.fremdeDollen = dollen;
+    werte.jokerFremd = joker;
+    werte.truempfeImSpiel = werte.eigeneTruempfe + fremdeTruempfe;
+    werte.hoechsterTrumpfImSpiel = std::max(hoechsterEigener, hoechsterFremder);
     for (std::size_t f = 0; f < AnzahlFarben; ++f)
-        werte.hoechsteOffene[f] = std::max(werte.hoechsteFremde[f], std::max(besteEigene[f], 0));
+        werte.hoechsteOffene[f] = std::max(hoechsteFremde[f], std::max(besteEigene[f], 0));
     if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {
         // The long suit chosen with the solo; a game taken over midway chooses afresh.
         werte.langeFarbe = wissen.solo.langeFarbe[ich];

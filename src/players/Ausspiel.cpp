@@ -64,22 +64,18 @@ bool gegnerKannTrumpfHaben(const Lage& l) {
 }
 
 int eigenerTrumpfNachRang(const Lage& l, int rang) {
-    std::vector<int> t;
-    for (int p : l.hand)
-        if (l.istTrumpf(p)) t.push_back(p);
+    Kartenliste t = l.hand;
+    t.behalten([&](int p) { return l.istTrumpf(p); });
     std::sort(t.begin(), t.end(), [&](int a, int b) { return l.staerke(a) > l.staerke(b); });
     return rang < static_cast<int>(t.size()) ? t[static_cast<std::size_t>(rang)] : 0;
 }
 
-// The own trumps at the top of all trumps left, without a gap.
+// The own trumps at the top of all trumps left, without a gap: those at least as strong as
+// the others' best (of equal ones the own counts first).
 int hoechsteInFolge(const Lage& l) {
-    std::vector<std::pair<int, bool>> alle;  // strength, own
-    const Deck& deck = l.spiel.deck;
-    for (int p = 1; p <= deck.kartenanzahl(); ++p)
-        if (deck[p].status == InHand && deck[p].farbe == l.trumpf) alle.emplace_back(l.staerke(p), deck.besitzer(p) == l.ich);
-    std::sort(alle.begin(), alle.end(), [](auto a, auto b) { return a.first != b.first ? a.first > b.first : (a.second && !b.second); });
+    const int fremd = l.werte.hoechsterFremderTrumpf;
     int n = 0;
-    while (n < static_cast<int>(alle.size()) && alle[static_cast<std::size_t>(n)].second) ++n;
+    for (int p : l.hand) n += l.istTrumpf(p) && l.staerke(p) >= fremd;
     return n;
 }
 

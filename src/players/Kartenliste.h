@@ -34,8 +34,10 @@ public:
     // Keeps the cards that pass the test, in their order.
     template <class Test>
     void behalten(Test&& test) {
-        n_ = static_cast<std::size_t>(std::stable_partition(karten_.begin(), karten_.begin() + n_, test) -
-                                      karten_.begin());
+        std::size_t n = 0;
+        for (std::size_t i = 0; i < n_; ++i)
+            if (test(karten_[i])) karten_[n++] = karten_[i];
+        n_ = n;
     }
 
     std::size_t size() const { return n_; }

@@ -41,8 +41,9 @@ int parteibild(Sitz sitz, int parteiBekannt) {
 
 int truempfeInHand(const Spiel& spiel, Sitz sitz) {
     int n = 0;
+    // Counted without a branch: which cards are left follows no pattern.
     for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
-        if (spiel.deck[p].status == InHand && spiel.deck[p].farbe == spiel.spieltyp) ++n;
+        n += (spiel.deck[p].status == InHand) & (spiel.deck[p].farbe == spiel.spieltyp);
     return n;
 }
 

@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "Kartenliste.h"
 #include "Kontra.h"
 #include "Regeltabelle.h"
 #include "Texte.h"
@@ -26,14 +27,43 @@ bool laufend(const Spiel& spiel) {
     return p == Spielphase::Kartenspiel || p == Spielphase::StichVoll || p == Spielphase::Spielende;
 }
 
-// The deck with the strengths of a kind. The running game keeps its own; for another
+// The own hand in hand, as positions.
+Kartenliste eigeneKarten(const Spiel& spiel, Sitz sitz) {
+    Kartenliste hand;
+    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
+        if (spiel.deck[p].status == InHand) hand.push_back(p);
+    return hand;
+}
+
+// The seat's own positions of the deck with the strengths of a kind; read by position
+// like the deck, without copying the other hands.
+class Handdeck {
+public:
+    Handdeck(const Deck& deck, Sitz sitz) : erste_(deck.erstePosition(sitz)) {
+        for (int p = erste_; p <= deck.letztePosition(sitz); ++p) karten_[index(p)] = deck[p];
+    }
+    const Kartenposition& operator[](int pos) const { return karten_[index(pos)]; }
+    Kartenposition& operator[](int pos) { return karten_[index(pos)]; }
+
+private:
+    std::size_t index(int pos) const { return static_cast<std::size_t>(pos - erste_); }
+    int erste_;
+    std::array<Kartenposition, MaxPositionen / 4> karten_{};
+};
+
+// The own cards with the strengths of a kind. The running game keeps its own; for another
 // kind the own Schweine and an own Supersau rank at the top (another seat's are unknown).
-Deck deckFuer(const Spiel& spiel, Sitz sitz, int art) {
-    if (laufend(spiel) && art == spiel.spieltyp) return spiel.deck;
-    Deck d = spiel.deck;
-    d.staerkenBerechnen(art);
+Handdeck deckFuer(const Spiel& spiel, Sitz sitz, int art) {
+    Handdeck d(spiel.deck, sitz);
+    if (laufend(spiel) && art == spiel.spieltyp) return d;
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
+    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p) {
+        if (d[p].code == 0) continue;
+        const Rangierung r = rangierung(d[p].code, art);
+        d[p].farbe = r.farbe;
+        d[p].staerke = r.staerke;
+    }
     const Regeln& r = spiel.regeln;
-    const std::vector<int> hand = handkarten(spiel, sitz);
     auto obenauf = [&](int code) {
         if (std::count_if(hand.begin(), hand.end(), [&](int p) { return d[p].code == code; }) < 2) return false;
         for (int p : hand)
@@ -374,7 +404,7 @@ namespace {
 
 // Steps 2 to 6: a colour with many trumps, its Zehn and As, high trumps and no blank side card.
 int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen, bool& still) {
-    const std::vector<int> hand = handkarten(spiel, sitz);
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
     const Deck& roh = spiel.deck;
     bool doppelteZehn = false;
     for (int f = Karo; f <= Kreuz; ++f)
@@ -384,7 +414,7 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     if (!doppelteZehn) return 0;
 
     // Damen and Buben out of the way, each suit counts its As, Zehn, König and Neun.
-    const Deck ohneFiguren = deckFuer(spiel, sitz, DamenBubenSolo);
+    const Handdeck ohneFiguren = deckFuer(spiel, sitz, DamenBubenSolo);
     int farbe = 0;
     int meiste = -1;
     for (int f = Karo; f <= Kreuz; ++f) {
@@ -397,7 +427,7 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     }
     if (!arten[static_cast<std::size_t>(farbe)]) return 0;
 
-    const Deck d = deckFuer(spiel, sitz, farbe);
+    const Handdeck d = deckFuer(spiel, sitz, farbe);
     int truempfe = 0;
     int zehnUndAs = 0;
     for (int p : hand) {
@@ -424,22 +454,26 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
         // A blank side card that is no As is lost at once and opens the suit for the others.
         for (int f = Karo; f <= Kreuz; ++f) {
             if (f == farbe) continue;
-            std::vector<int> karten;
+            int n = 0;
+            int einzige = 0;
             for (int p : hand)
-                if (d[p].farbe == f) karten.push_back(p);
-            if (karten.size() == 1 && d[karten.front()].wert != WertAs) return 0;
+                if (d[p].farbe == f) {
+                    ++n;
+                    einzige = p;
+                }
+            if (n == 1 && d[einzige].wert != WertAs) return 0;
         }
     }
     return farbe;
 }
 
-template <class Test>
-int zaehle(const Deck& d, const std::vector<int>& hand, const Test& test) {
+template <class Karten, class Test>
+int zaehle(const Karten& d, const Kartenliste& hand, const Test& test) {
     return static_cast<int>(std::count_if(hand.begin(), hand.end(), [&](int p) { return test(d[p]); }));
 }
 
 bool figurenSolo(const Spiel& spiel, Sitz sitz, int rang, bool zuerst) {
-    const std::vector<int> hand = handkarten(spiel, sitz);
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
     const Deck& d = spiel.deck;
     const int figuren = zaehle(d, hand, [&](const Kartenposition& k) { return !istJoker(k.code) && rangVonCode(k.code) == rang; });
     const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertAs; });
@@ -448,8 +482,8 @@ bool figurenSolo(const Spiel& spiel, Sitz sitz, int rang, bool zuerst) {
 
 // Step 10: aces and tens, else points for suits headed by As-As-Zehn, As-As, a single As.
 bool fleischlos(const Spiel& spiel, Sitz sitz, bool zuerst) {
-    const std::vector<int> hand = handkarten(spiel, sitz);
-    const Deck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
+    const Handdeck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
     const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertAs; });
     const int zehnen = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertZehn; });
     if (asse + zehnen > 9 && asse >= 6) return true;
@@ -489,8 +523,8 @@ bool fleischlos(const Spiel& spiel, Sitz sitz, bool zuerst) {
 }
 
 int langeFarbe(const Spiel& spiel, Sitz sitz) {
-    const std::vector<int> hand = handkarten(spiel, sitz);
-    const Deck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
+    const Handdeck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
     int farbe = 0;
     int meiste = 0;
     for (int f = Karo; f <= Kreuz; ++f) {
@@ -569,8 +603,8 @@ int pflichtsoloArt(const Spiel& spiel, Sitz sitz, const Soloarten& arten) {
 }
 
 Hochzeitwahl hochzeitArtWaehlen(const Spiel& spiel, Sitz sitz) {
-    const std::vector<int> hand = handkarten(spiel, sitz);
-    const Deck d = deckFuer(spiel, sitz, Normalspiel);
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
+    const Handdeck d = deckFuer(spiel, sitz, Normalspiel);
     const int truempfe = zaehle(d, hand, [](const Kartenposition& k) { return k.farbe == Normalspiel; });
     const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.farbe != Normalspiel && k.wert == WertAs; });
     if (truempfe >= 7) return {ErsterFehlstich, text::HochzeitFehlstich};

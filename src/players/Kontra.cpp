@@ -25,10 +25,9 @@ Augenstand augenstand(const Lage& l) {
     Augenstand a;
     for (const Sitz x : alleSitze) {
         const int augen = l.spiel.augen[x];
-        if (l.freund(x))
-            a.eigene += augen;
-        else
-            a.andere += augen;
+        const bool freund = l.freund(x);
+        a.eigene += freund ? augen : 0;
+        a.andere += freund ? 0 : augen;
     }
     return a;
 }
@@ -42,10 +41,10 @@ bool soloDenkbar(const Lage& l, double sicherheit) {
     return abziehenDenkbar(l.werte.eigeneTruempfe, l.werte.fremdeTruempfe, groessen, sicherheit);
 }
 
-int zaehleInHand(const Lage& l, bool (*test)(const Kartenposition&)) {
+template <class Test>
+int zaehleInHand(const Lage& l, Test&& test) {
     int n = 0;
-    for (int p : l.hand)
-        if (test(l.karte(p))) ++n;
+    for (int p : l.hand) n += test(l.karte(p));
     return n;
 }
 
@@ -81,9 +80,9 @@ int ansagewert(const Lage& l) {
     int asse = 0;
     int zehnen = 0;
     for (int p : l.hand) {
-        if (l.istTrumpf(p)) continue;
-        asse += l.karte(p).wert == WertAs;
-        zehnen += l.karte(p).wert == WertZehn;
+        const bool farbkarte = !l.istTrumpf(p);
+        asse += farbkarte & (l.karte(p).wert == WertAs);
+        zehnen += farbkarte & (l.karte(p).wert == WertZehn);
     }
     if (s.solo && s.solist == l.ich)
         w += 10 * asse;

@@ -261,20 +261,6 @@ bool Lage::genagelt() const {
     return true;
 }
 
-bool Lage::freund(Sitz x) const {
-    if (x == ich) return true;
-    const int e = eigenePartei();
-    const int g = glaube(x);
-    if (e == ParteiUnbekannt || g == ParteiUnbekannt || e == ParteiSolo || g == ParteiSolo) return false;
-    return (e == ParteiKontra) == (g == ParteiKontra);
-}
-
-bool Lage::frei(Sitz x, int farbe) const {
-    return wissen.farbeFrei[x][fi(farbe)][ich] || werte.fremdeAnzahl[fi(farbe)] == 0;
-}
-
-bool Lage::ohneTrumpf(Sitz x) const { return wissen.keinTrumpf[x][ich] || werte.fremdeTruempfe == 0; }
-
 std::optional<Sitz> Lage::solist() const {
     if (spiel.solo && spiel.solist) return spiel.solist;
     for (const Sitz x : alleSitze)

@@ -109,12 +109,25 @@ public:
     // --- Knowledge from the own point of view.
     int glaube(Sitz x) const { return wissen.glaube(x, ich); }
     int eigenePartei() const { return wissen.glaube(ich, ich); }
-    bool freund(Sitz x) const;
+    bool freund(Sitz x) const {
+        if (x == ich) return true;
+        const int e = eigenePartei();
+        const int g = glaube(x);
+        if (e == engine::ParteiUnbekannt || g == engine::ParteiUnbekannt || e == engine::ParteiSolo ||
+            g == engine::ParteiSolo)
+            return false;
+        return (e == engine::ParteiKontra) == (g == engine::ParteiKontra);
+    }
     bool feind(Sitz x) const { return x != ich && !freund(x); }
     // Another seat believed in a party that is not the own one.
     bool bekannterFeind(Sitz x) const { return feind(x) && glaube(x) != engine::ParteiUnbekannt; }
-    bool frei(Sitz x, int farbe) const;          // known (or certainly) void in the suit
-    bool ohneTrumpf(Sitz x) const;               // known (or certainly) without trump
+    // Known (or certainly) void in the suit.
+    bool frei(Sitz x, int farbe) const {
+        const auto f = static_cast<std::size_t>(farbe);
+        return wissen.farbeFrei[x][f][ich] || werte.fremdeAnzahl[f] == 0;
+    }
+    // Known (or certainly) without trump.
+    bool ohneTrumpf(Sitz x) const { return wissen.keinTrumpf[x][ich] || werte.fremdeTruempfe == 0; }
     std::optional<Sitz> solist() const;          // declared or believed soloist
     bool hochzeitsKlaerstich() const;            // this trick may find the Hochzeit partner
     bool binHochzeiter() const { return spiel.hochzeiter == ich; }

@@ -27,14 +27,16 @@ std::string_view hochzeitCode(int art) {
 int Regelwerk::karteWaehlen(const Spiel& spiel, Sitz sitz) {
     // A game loaded or taken over midway: rebuild what the table has seen.
     if (!wissen_.aktuell(spiel)) wissen_.nachvollziehen(spiel);
-    wissen_.zugVorbereiten(spiel, sitz);
     const Melder melder(senke_, sitz, wissen_.msgBoxModus == MsgBoxZeigen);
     melder.entscheidung();
     // The view of the announcement check just made, if it was for this very state; used once.
+    // Building a Lage reads nothing the preparation of the move changes.
     std::optional<Lage> neu;
     const bool vorbereitet = passt(vorlage_, spiel, sitz);
     if (!vorbereitet) neu.emplace(spiel, wissen_, sitz, melder, zufall_);
-    const int karte = karteNachLage(vorbereitet ? *vorlage_.lage : *neu, melder);
+    const Lage& lage = vorbereitet ? *vorlage_.lage : *neu;
+    wissen_.zugVorbereiten(spiel, sitz, lage.werte.eigeneTruempfe);
+    const int karte = karteNachLage(lage, melder);
     vorlage_.verwerfen();
     return karte;
 }
@@ -86,8 +88,8 @@ std::optional<Ansage> Regelwerk::ansageWaehlen(const Spiel& spiel, Sitz sitz) {
     // Re or Kontra is weighed during a trick or before the first card, a limit only when
     // leading after the first trick: elsewhere neither rule can say yes.
     const bool leer = spiel.stich.anzahl == 0 || spiel.stich.komplett();
-    const bool reKontra = ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine &&
-                          !(leer && spiel.sticheGespielt > 0);
+    const bool reKontraErlaubt = ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine;
+    const bool reKontra = reKontraErlaubt && !(leer && spiel.sticheGespielt > 0);
     const bool limit = leer && spiel.sticheGespielt > 0 &&
                        ansageSperre(spiel, sitz, Ansage{true, Keine90}) == Ansagesperre::Keine;
     if (!reKontra && !limit) return std::nullopt;
@@ -95,7 +97,7 @@ std::optional<Ansage> Regelwerk::ansageWaehlen(const Spiel& spiel, Sitz sitz) {
     Vorlage& v = vorlage_;
     v.melder.emplace(senke_, sitz, wissen_.msgBoxModus == MsgBoxZeigen);
     const Lage& lage = v.lage.emplace(spiel, wissen_, sitz, *v.melder, zufall_);
-    if (ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine && kontraPruefen(lage).ansagen) {
+    if (reKontraErlaubt && kontraPruefen(lage).ansagen) {
         v.verwerfen();
         return Ansage{};
     }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <bit>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -302,8 +303,8 @@ Soloschaetzung soloSchaetzen(const Solokarten& karten, const Regeln& regeln, int
         int eigene = 0;
         for (std::size_t i = 0; i < karten.nEigene; ++i) eigene += (maske >> karten.eigene[i]) & 1u;
         int fremde = 0;
-        for (int code = 1; code <= 25; ++code)
-            if ((maske >> code) & 1u) fremde += karten.fremdeJeCode[static_cast<std::size_t>(code)];
+        for (std::uint32_t m = maske; m != 0; m &= m - 1)
+            fremde += karten.fremdeJeCode[static_cast<std::size_t>(std::countr_zero(m))];
         if (!abziehenDenkbar(eigene, fremde, karten.groessen, sicherheit))
             return {false, false, static_cast<int>(karten.nEigene), NichtSicher};
     }

@@ -316,12 +316,16 @@ void Tischwissen::parteizeigerSetzen(const Spiel& spiel) {
 }
 
 void Tischwissen::zugVorbereiten(const Spiel& spiel, Sitz sitz) {
+    zugVorbereiten(spiel, sitz, truempfeInHand(spiel, sitz));
+}
+
+void Tischwissen::zugVorbereiten(const Spiel& spiel, Sitz sitz, int eigeneTruempfe) {
     // Drawn only in the first trick, and only for these seats and moments: a game
     // keeps its first-trick number for all later tricks.
     const int n = spiel.stich.anzahl;
     if (spiel.sticheGespielt == 0 && ((n == 0 && sitz != Sitz(1)) || (n == 1 && sitz == Sitz(2))))
         zufallszahl = static_cast<int>(zufall_->rnd() * 100 + 1);
-    if (truempfeInHand(spiel, sitz) == 0) keinTrumpf[sitz][sitz] = true;
+    if (eigeneTruempfe == 0) keinTrumpf[sitz][sitz] = true;
 }
 
 void Tischwissen::nachvollziehen(const Spiel& spiel) {

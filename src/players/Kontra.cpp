@@ -97,7 +97,7 @@ int ansagewert(const Lage& l) {
         const int eigene = l.werte.eigeneTruempfe;
         bool ueberlegen = true;
         for (const Sitz x : alleSitze)
-            if (x != l.ich && eigene - 1 < l.werte.truempfe[x]) ueberlegen = false;
+            if (x != l.ich && eigene - 1 < truempfeInHand(s, x)) ueberlegen = false;
         if (ueberlegen) w += 11 * eigene;
     }
     return w;

@@ -106,67 +106,58 @@ void Lage::werteBerechnen() {
     anfang[4] = n;
 
     // Summed in locals: stores into the members might alias the deck and would be kept in memory.
+    // Trumps carry the game type as their suit, so the trump figures are those of that suit.
+    const auto ichIndex = static_cast<std::size_t>(ich.nr() - 1);
     std::array<int, AnzahlFarben> besteEigene;
     besteEigene.fill(-1);
     std::array<int, AnzahlFarben> eigeneBeste{};
     std::array<int, AnzahlFarben> eigeneAnzahl{};
+    for (int j = anfang[ichIndex]; j < anfang[ichIndex + 1]; ++j) {
+        const int p = imSpiel[static_cast<std::size_t>(j)];
+        const auto& k = deck[p];
+        const int st = staerkeVon(p, k);
+        const auto f = fi(k.farbe);
+        ++eigeneAnzahl[f];
+        const bool besser = st > besteEigene[f];
+        besteEigene[f] = besser ? st : besteEigene[f];
+        eigeneBeste[f] = besser ? p : eigeneBeste[f];
+        hand.push_back(p);
+    }
     std::array<int, AnzahlFarben> fremdeAnzahl{};
     std::array<int, AnzahlFarben> hoechsteFremde{};
-    int hoechsterEigener = 0;
-    int hoechsterFremder = 0;
-    int fremdeTruempfe = 0;
     int dollen = 0;
     bool joker = false;
+    auto fremde = [&](int von, int bis) {
+        for (int j = von; j < bis; ++j) {
+            const int p = imSpiel[static_cast<std::size_t>(j)];
+            const auto& k = deck[p];
+            const int st = staerkeVon(p, k);
+            const auto f = fi(k.farbe);
+            ++fremdeAnzahl[f];
+            hoechsteFremde[f] = std::max(hoechsteFremde[f], st);
+            dollen += (k.farbe == trumpf) & (k.code == DolleCode);
+            joker |= istJoker(k.code);
+        }
+    };
+    fremde(0, anfang[ichIndex]);
+    fremde(anfang[ichIndex + 1], n);
     for (const Sitz x : alleSitze) {
         const auto i = static_cast<std::size_t>(x.nr() - 1);
         werte.karten[x] = anfang[i + 1] - anfang[i];
-        int truempfe = 0;
-        if (x == ich) {
-            for (int j = anfang[i]; j < anfang[i + 1]; ++j) {
-                const int p = imSpiel[static_cast<std::size_t>(j)];
-                const auto& k = deck[p];
-                const int st = staerkeVon(p, k);
-                const auto f = fi(k.farbe);
-                const bool istTrumpf = k.farbe == trumpf;
-                truempfe += istTrumpf;
-                hoechsterEigener = std::max(hoechsterEigener, istTrumpf ? st : 0);
-                ++eigeneAnzahl[f];
-                const bool besser = st > besteEigene[f];
-                besteEigene[f] = besser ? st : besteEigene[f];
-                eigeneBeste[f] = besser ? p : eigeneBeste[f];
-            }
-            werte.eigeneTruempfe = truempfe;
-        } else {
-            for (int j = anfang[i]; j < anfang[i + 1]; ++j) {
-                const int p = imSpiel[static_cast<std::size_t>(j)];
-                const auto& k = deck[p];
-                const int st = staerkeVon(p, k);
-                const auto f = fi(k.farbe);
-                const bool istTrumpf = k.farbe == trumpf;
-                truempfe += istTrumpf;
-                hoechsterFremder = std::max(hoechsterFremder, istTrumpf ? st : 0);
-                dollen += istTrumpf & (k.code == DolleCode);
-                joker |= istJoker(k.code);
-                ++fremdeAnzahl[f];
-                hoechsteFremde[f] = std::max(hoechsteFremde[f], st);
-            }
-            fremdeTruempfe += truempfe;
-        }
-        werte.truempfe[x] = truempfe;
     }
-    const auto ichIndex = static_cast<std::size_t>(ich.nr() - 1);
-    for (int j = anfang[ichIndex]; j < anfang[ichIndex + 1]; ++j) hand.push_back(imSpiel[static_cast<std::size_t>(j)]);
+    const auto t = fi(trumpf);
     werte.eigeneBeste = eigeneBeste;
     werte.eigeneAnzahl = eigeneAnzahl;
     werte.fremdeAnzahl = fremdeAnzahl;
     werte.hoechsteFremde = hoechsteFremde;
-    werte.hoechsterEigenerTrumpf = hoechsterEigener;
-    werte.hoechsterFremderTrumpf = hoechsterFremder;
-    werte.fremdeTruempfe = fremdeTruempfe;
+    werte.eigeneTruempfe = eigeneAnzahl[t];
+    werte.fremdeTruempfe = fremdeAnzahl[t];
+    werte.hoechsterEigenerTrumpf = std::max(besteEigene[t], 0);
+    werte.hoechsterFremderTrumpf = hoechsteFremde[t];
     werte.fremdeDollen = dollen;
     werte.jokerFremd = joker;
-    werte.truempfeImSpiel = werte.eigeneTruempfe + fremdeTruempfe;
-    werte.hoechsterTrumpfImSpiel = std::max(hoechsterEigener, hoechsterFremder);
+    werte.truempfeImSpiel = werte.eigeneTruempfe + werte.fremdeTruempfe;
+    werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterEigenerTrumpf, werte.hoechsterFremderTrumpf);
     for (std::size_t f = 0; f < AnzahlFarben; ++f)
         werte.hoechsteOffene[f] = std::max(hoechsteFremde[f], std::max(besteEigene[f], 0));
     if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {

@@ -30,7 +30,6 @@ struct Zugwerte {
     std::array<int, AnzahlFarben> eigeneAnzahl{};
     int langeFarbe = 0;                // the long suit of a fleischlos solo
     engine::ProSitz<int> karten;       // cards in each hand
-    engine::ProSitz<int> truempfe;     // trumps in each hand
 };
 
 class Lage {

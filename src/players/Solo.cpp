@@ -227,6 +227,15 @@ Solokarten solokarten(const Spiel& spiel, Sitz sitz) {
             }
         }
     }
+    // The codes held once or more and twice, as bits: a deck holds no code three times.
+    std::array<int, 26> eigeneJeCode{};
+    for (std::size_t i = 0; i < c.nEigene; ++i) ++eigeneJeCode[static_cast<std::size_t>(c.eigene[i])];
+    for (std::size_t code = 1; code < eigeneJeCode.size(); ++code) {
+        for (std::size_t n = 0; n < 2; ++n) {
+            c.eigeneCodes[n] |= static_cast<std::uint32_t>(eigeneJeCode[code] > static_cast<int>(n)) << code;
+            c.fremdeCodes[n] |= static_cast<std::uint32_t>(c.fremdeJeCode[code] > static_cast<int>(n)) << code;
+        }
+    }
     c.beideKreuzDamen = hatBeideKreuzDamen(spiel, sitz);
     return c;
 }
@@ -300,11 +309,8 @@ Soloschaetzung soloSchaetzen(const Solokarten& karten, const Regeln& regeln, int
                              double sicherheit) {
     if (art != SoloOhneTrumpf && art >= 1 && art <= AnzahlSpielarten) {
         const std::uint32_t maske = trumpfcodes[static_cast<std::size_t>(art)];
-        int eigene = 0;
-        for (std::size_t i = 0; i < karten.nEigene; ++i) eigene += (maske >> karten.eigene[i]) & 1u;
-        int fremde = 0;
-        for (std::uint32_t m = maske; m != 0; m &= m - 1)
-            fremde += karten.fremdeJeCode[static_cast<std::size_t>(std::countr_zero(m))];
+        const int eigene = std::popcount(karten.eigeneCodes[0] & maske) + std::popcount(karten.eigeneCodes[1] & maske);
+        const int fremde = std::popcount(karten.fremdeCodes[0] & maske) + std::popcount(karten.fremdeCodes[1] & maske);
         if (!abziehenDenkbar(eigene, fremde, karten.groessen, sicherheit))
             return {false, false, static_cast<int>(karten.nEigene), NichtSicher};
     }
@@ -356,7 +362,7 @@ Soloschaetzung schaetzen(const Solohaende& h, const Regeln& r, int art, bool amA
 
 Soloarten soloartenAusRegeln(const Regeln& regeln) {
     Soloarten arten{};
-    for (int art : erlaubteSoloarten(regeln)) arten[static_cast<std::size_t>(art)] = true;
+    for (int art = 1; art <= AnzahlSpielarten; ++art) arten[static_cast<std::size_t>(art)] = soloErlaubt(regeln, art);
     return arten;
 }
 

@@ -3,6 +3,7 @@
 // kind (SoloBewerten, SicheresSolo), the unsafe solo steps (SoloPruefen), the
 // silent solo, the duty solo and the kind of a Hochzeit.
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 #include "Melder.h"
@@ -36,6 +37,9 @@ struct Solokarten {
     std::array<int, 26> fremdeJeCode{};
     std::array<int, 3> groessen{};  // the other hands in seat order after the seat
     bool beideKreuzDamen = false;
+    // Bit `code` of [0]: held once or more, of [1]: held twice (own hand, the other hands).
+    std::array<std::uint32_t, 2> eigeneCodes{};
+    std::array<std::uint32_t, 2> fremdeCodes{};
 };
 Solokarten solokarten(const Spiel& spiel, Sitz sitz);
 

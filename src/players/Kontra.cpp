@@ -95,9 +95,11 @@ int ansagewert(const Lage& l) {
     } else {
         // Trump superiority: at least one trump more than every other hand.
         const int eigene = l.werte.eigeneTruempfe;
-        bool ueberlegen = true;
-        for (const Sitz x : alleSitze)
-            if (x != l.ich && eigene - 1 < truempfeInHand(s, x)) ueberlegen = false;
+        // When the others hold fewer together, no hand needs counting.
+        bool ueberlegen = eigene >= 1;
+        if (ueberlegen && l.werte.fremdeTruempfe > eigene - 1)
+            for (const Sitz x : alleSitze)
+                if (x != l.ich && eigene - 1 < truempfeInHand(s, x)) ueberlegen = false;
         if (ueberlegen) w += 11 * eigene;
     }
     return w;

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <type_traits>
+#include <utility>
 
 namespace players {
 
@@ -57,5 +59,22 @@ private:
     std::array<int, Kapazitaet> karten_{};
     std::size_t n_ = 0;
 };
+
+// The first card passing the test with the smallest key, 0 if none. Each card's key is
+// worked out once: some keys rank a card by several of its properties.
+template <class Test, class Schluessel>
+int kleinsteNach(const Kartenliste& karten, Test&& test, Schluessel&& schluessel) {
+    int beste = 0;
+    std::invoke_result_t<Schluessel&, int> besterSchluessel{};
+    for (int p : karten) {
+        if (!test(p)) continue;
+        auto s = schluessel(p);
+        if (beste == 0 || s < besterSchluessel) {
+            beste = p;
+            besterSchluessel = std::move(s);
+        }
+    }
+    return beste;
+}
 
 }  // namespace players

@@ -154,10 +154,7 @@ public:
     // without building the list of candidates.
     template <class Test, class Schluessel>
     int kleinsteErlaubte(Test&& test, Schluessel&& schluessel) const {
-        int beste = 0;
-        for (int p : erlaubt)
-            if (test(p) && (beste == 0 || schluessel(p) < schluessel(beste))) beste = p;
-        return beste;
+        return kleinsteNach(erlaubt, test, schluessel);
     }
     // Own hand in display order: trumps from the top, then Kreuz, Pik, Herz, Karo.
     Kartenliste sortierteHand() const;

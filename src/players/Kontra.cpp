@@ -96,7 +96,8 @@ int ansagewert(const Lage& l) {
         // Trump superiority: at least one trump more than every other hand.
         const int eigene = l.werte.eigeneTruempfe;
         // When the others hold fewer together, no hand needs counting.
-        bool ueberlegen = eigene >= 1;
+        // Some hand holds at least a third of the others' trumps.
+        bool ueberlegen = eigene >= 1 && l.werte.fremdeTruempfe <= 3 * (eigene - 1);
         if (ueberlegen && l.werte.fremdeTruempfe > eigene - 1)
             for (const Sitz x : alleSitze)
                 if (x != l.ich && eigene - 1 < truempfeInHand(s, x)) ueberlegen = false;

@@ -59,6 +59,8 @@ int abziehrunden(int fremde, const std::array<int, 3>& handgroessen, double sich
 // Whether `eigene` trumps could pull `fremde` at all: when not, the estimate is the one of a
 // hand that cannot pull (NichtSicher), whatever the cards are. Most hands end here, cheaply.
 inline bool abziehenDenkbar(int eigene, int fremde, const std::array<int, 3>& handgroessen, double sicherheit) {
+    // Some hand holds at least a third of the others' trumps, so fewer rounds never do.
+    if (fremde > 0 && eigene < (fremde + 2) / 3) return false;
     return eigene >= abziehrunden(fremde, handgroessen, sicherheit);
 }
 

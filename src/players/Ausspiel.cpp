@@ -24,24 +24,26 @@ bool istFarbe(const Lage& l, int f) { return f >= 1 && f <= 4 && f != l.trumpf; 
 // but a second Dolle takes the first where that rule is in force).
 int uebermaechtigeTruempfe(const Lage& l) {
     const int fremd = l.werte.hoechsterFremderTrumpf;
+    const bool gleichSchlaegt = !(fremd == StaerkeDolle && !l.spiel.regeln.herzZehn);
     int n = 0;
     for (int p : l.hand) {
-        if (!l.istTrumpf(p)) continue;
         const int s = l.staerke(p);
-        if (s > fremd || (s == fremd && !(s == StaerkeDolle && !l.spiel.regeln.herzZehn))) ++n;
+        n += l.istTrumpf(p) & ((s > fremd) | ((s == fremd) & gleichSchlaegt));
     }
     return n;
 }
 
 // KannTrumpfAbziehen: the own top trumps pull all the others'. A soloist counts on the
 // others' trumps being spread, as his solo evaluation does.
-bool kannTrumpfAbziehen(const Lage& l) {
-    if (uebermaechtigeTruempfe(l) >= l.werte.fremdeTruempfe) return true;
+bool kannTrumpfAbziehen(const Lage& l, int oben) {
+    if (oben >= l.werte.fremdeTruempfe) return true;
     return l.wissen.partei[l.ich] == ParteiSolo && soloSchaetzen(l.spiel, l.ich, l.trumpf, true).abziehen;
 }
+bool kannTrumpfAbziehen(const Lage& l) { return kannTrumpfAbziehen(l, uebermaechtigeTruempfe(l)); }
 // Second form: also when no Dolle is out against the own highest trump.
 bool kannTrumpfAbziehen2(const Lage& l) {
-    return kannTrumpfAbziehen(l) || (l.werte.fremdeDollen == 0 && uebermaechtigeTruempfe(l) >= 1);
+    const int oben = uebermaechtigeTruempfe(l);
+    return kannTrumpfAbziehen(l, oben) || (l.werte.fremdeDollen == 0 && oben >= 1);
 }
 void abziehenMelden(const Lage& l, bool zweiteForm) {
     if (!l.melder.zeigt()) return;
@@ -66,7 +68,7 @@ bool gegnerKannTrumpfHaben(const Lage& l) {
 int eigenerTrumpfNachRang(const Lage& l, int rang) {
     Kartenliste t = l.hand;
     t.behalten([&](int p) { return l.istTrumpf(p); });
-    std::sort(t.begin(), t.end(), [&](int a, int b) { return l.staerke(a) > l.staerke(b); });
+    t.sortieren([&](int a, int b) { return l.staerke(a) > l.staerke(b); });
     return rang < static_cast<int>(t.size()) ? t[static_cast<std::size_t>(rang)] : 0;
 }
 

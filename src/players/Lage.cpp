@@ -330,7 +330,7 @@ Kartenliste Lage::sortierteHand() const {
         if (istTrumpf(p)) return std::make_tuple(0, -staerke(p));
         return std::make_tuple(5 - karte(p).farbe, -staerke(p));
     };
-    std::stable_sort(v.begin(), v.end(), [&](int a, int b) { return schluessel(a) < schluessel(b); });
+    v.stabilSortieren([&](int a, int b) { return schluessel(a) < schluessel(b); });
     return v;
 }
 

@@ -68,8 +68,8 @@ Folge::Folge(const Lage& lage) : l(lage) {
     anzahlFarbe = farbe > 0 ? l.anzahlInHand(farbe) : 0;
     trumpfAnzahl = l.werte.eigeneTruempfe;
     for (int p : l.erlaubt) {
-        hatFarbkarte = hatFarbkarte || !l.istTrumpf(p);
-        kannSchlagen = kannSchlagen || l.schlaegt(p);
+        hatFarbkarte |= !l.istTrumpf(p);
+        kannSchlagen |= l.schlaegt(p);
     }
 }
 

@@ -187,17 +187,6 @@ std::vector<Sitz> Lage::nachMir() const {
     return v;
 }
 
-bool Lage::schlaegt(int pos) const {
-    if (anzahl == 0) return true;
-    const auto& bester = karte(gewinnerKarte);
-    const int f = karte(pos).farbe;
-    const int s = staerke(pos);
-    if (f == trumpf && bester.farbe != trumpf) return true;
-    if (f != bester.farbe) return false;
-    if (s > bester.staerke) return true;
-    return s == bester.staerke && s == StaerkeDolle && !spiel.regeln.herzZehn;
-}
-
 bool Lage::kannSchlagen() const {
     return std::any_of(erlaubt.begin(), erlaubt.end(), [this](int p) { return schlaegt(p); });
 }

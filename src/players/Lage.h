@@ -87,8 +87,17 @@ public:
     bool nurTrumpf() const { return werte.eigeneTruempfe == static_cast<int>(hand.size()); }
     bool letzterStich() const { return hand.size() == 1; }
 
-    // Would the card win the trick if played now?
-    bool schlaegt(int pos) const;
+    // Would the card win the trick if played now? (Without branches: asked of every card.)
+    bool schlaegt(int pos) const {
+        if (anzahl == 0) return true;
+        const auto& bester = karte(gewinnerKarte);
+        const int f = karte(pos).farbe;
+        const int s = staerke(pos);
+        const bool sticht = (f == trumpf) & (bester.farbe != trumpf);
+        const bool hoeher = (s > bester.staerke) |
+                            ((s == bester.staerke) & (s == engine::StaerkeDolle) & !spiel.regeln.herzZehn);
+        return sticht | ((f == bester.farbe) & hoeher);
+    }
     bool kannSchlagen() const;
     // Is there still a card out in other hands that beats `staerke` in the suit?
     bool hoehereDraussen(int farbe, int staerke) const;

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "Kontra.h"
 #include "Regelhilfen.h"
 #include "Solo.h"
 #include "Texte.h"
@@ -37,7 +38,8 @@ int uebermaechtigeTruempfe(const Lage& l) {
 // others' trumps being spread, as his solo evaluation does.
 bool kannTrumpfAbziehen(const Lage& l, int oben) {
     if (oben >= l.werte.fremdeTruempfe) return true;
-    return l.wissen.partei[l.ich] == ParteiSolo && soloSchaetzen(l.spiel, l.ich, l.trumpf, true).abziehen;
+    return l.wissen.partei[l.ich] == ParteiSolo && soloDenkbar(l, AbziehenSolo) &&
+           soloSchaetzen(l.spiel, l.ich, l.trumpf, true).abziehen;
 }
 bool kannTrumpfAbziehen(const Lage& l) { return kannTrumpfAbziehen(l, uebermaechtigeTruempfe(l)); }
 // Second form: also when no Dolle is out against the own highest trump.

@@ -32,15 +32,6 @@ Augenstand augenstand(const Lage& l) {
     return a;
 }
 
-// Whether the seat's trumps could pull the others' at all; when not, the solo estimate
-// says NichtSicher and no rule below fires on it.
-bool soloDenkbar(const Lage& l, double sicherheit) {
-    if (l.trumpf == SoloOhneTrumpf) return true;
-    std::array<int, 3> groessen{};
-    for (std::size_t i = 0; i < groessen.size(); ++i) groessen[i] = l.werte.karten[l.ich.plus(static_cast<int>(i) + 1)];
-    return abziehenDenkbar(l.werte.eigeneTruempfe, l.werte.fremdeTruempfe, groessen, sicherheit);
-}
-
 template <class Test>
 int zaehleInHand(const Lage& l, Test&& test) {
     int n = 0;
@@ -107,6 +98,13 @@ int ansagewert(const Lage& l) {
 }
 
 }  // namespace
+
+bool soloDenkbar(const Lage& l, double sicherheit) {
+    if (l.trumpf == SoloOhneTrumpf) return true;
+    std::array<int, 3> groessen{};
+    for (std::size_t i = 0; i < groessen.size(); ++i) groessen[i] = l.werte.karten[l.ich.plus(static_cast<int>(i) + 1)];
+    return abziehenDenkbar(l.werte.eigeneTruempfe, l.werte.fremdeTruempfe, groessen, sicherheit);
+}
 
 Ansagepruefung kontraPruefen(const Lage& l) {
     const Spiel& s = l.spiel;

@@ -1,6 +1,8 @@
 #include "Lage.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <tuple>
 
 #include "engine/Stichspiel.h"
@@ -89,31 +91,22 @@ void Lage::werteBerechnen() {
         return st;
     };
 
-    // First the cards still in hand, gathered without a branch per card (which cards were
-    // played follows no pattern a processor could guess); then only those are looked at.
-    std::array<int, MaxPositionen> imSpiel;
-    std::array<int, 5> anfang{};
-    int n = 0;
+    // First the cards still in hand as bits, gathered without a branch per card (which cards
+    // were played follows no pattern a processor could guess); then only those are looked at.
+    std::uint64_t imHand = 0;
+    for (int p = 1; p <= deck.kartenanzahl(); ++p) imHand |= std::uint64_t{deck[p].status == InHand} << p;
     const int groesse = deck.handgroesse();
-    for (const Sitz x : alleSitze) {
-        anfang[static_cast<std::size_t>(x.nr() - 1)] = n;
-        const int erste = deck.erstePosition(x);
-        for (int p = erste; p < erste + groesse; ++p) {
-            imSpiel[static_cast<std::size_t>(n)] = p;
-            n += deck[p].status == InHand;
-        }
-    }
-    anfang[4] = n;
+    auto handVon = [&](Sitz x) { return ((std::uint64_t{1} << groesse) - 1) << deck.erstePosition(x); };
+    for (const Sitz x : alleSitze) werte.karten[x] = std::popcount(imHand & handVon(x));
 
     // Summed in locals: stores into the members might alias the deck and would be kept in memory.
     // Trumps carry the game type as their suit, so the trump figures are those of that suit.
-    const auto ichIndex = static_cast<std::size_t>(ich.nr() - 1);
     std::array<int, AnzahlFarben> besteEigene;
     besteEigene.fill(-1);
     std::array<int, AnzahlFarben> eigeneBeste{};
     std::array<int, AnzahlFarben> eigeneAnzahl{};
-    for (int j = anfang[ichIndex]; j < anfang[ichIndex + 1]; ++j) {
-        const int p = imSpiel[static_cast<std::size_t>(j)];
+    for (std::uint64_t m = imHand & handVon(ich); m != 0; m &= m - 1) {
+        const int p = std::countr_zero(m);
         const auto& k = deck[p];
         const int st = staerkeVon(p, k);
         const auto f = fi(k.farbe);
@@ -127,23 +120,15 @@ void Lage::werteBerechnen() {
     std::array<int, AnzahlFarben> hoechsteFremde{};
     int dollen = 0;
     bool joker = false;
-    auto fremde = [&](int von, int bis) {
-        for (int j = von; j < bis; ++j) {
-            const int p = imSpiel[static_cast<std::size_t>(j)];
-            const auto& k = deck[p];
-            const int st = staerkeVon(p, k);
-            const auto f = fi(k.farbe);
-            ++fremdeAnzahl[f];
-            hoechsteFremde[f] = std::max(hoechsteFremde[f], st);
-            dollen += (k.farbe == trumpf) & (k.code == DolleCode);
-            joker |= istJoker(k.code);
-        }
-    };
-    fremde(0, anfang[ichIndex]);
-    fremde(anfang[ichIndex + 1], n);
-    for (const Sitz x : alleSitze) {
-        const auto i = static_cast<std::size_t>(x.nr() - 1);
-        werte.karten[x] = anfang[i + 1] - anfang[i];
+    for (std::uint64_t m = imHand & ~handVon(ich); m != 0; m &= m - 1) {
+        const int p = std::countr_zero(m);
+        const auto& k = deck[p];
+        const int st = staerkeVon(p, k);
+        const auto f = fi(k.farbe);
+        ++fremdeAnzahl[f];
+        hoechsteFremde[f] = std::max(hoechsteFremde[f], st);
+        dollen += (k.farbe == trumpf) & (k.code == DolleCode);
+        joker |= istJoker(k.code);
     }
     const auto t = fi(trumpf);
     werte.eigeneBeste = eigeneBeste;

@@ -23,6 +23,7 @@ std::size_t fi(int farbe) { return static_cast<std::size_t>(farbe); }
 Lage::Lage(const Spiel& s, const Tischwissen& w, Sitz sitz, const Melder& m, Zufallsquelle& z)
     : spiel(s), wissen(w), ich(sitz), melder(m), zufall(z), trumpf(s.spieltyp) {
     werteBerechnen();
+    solist_ = solistSuchen();
     erlaubt = hand;
     if (spiel.stich.anzahl > 0) {
         // Who holds the suit to follow must follow it (the engine's rule, without a second pass).
@@ -226,7 +227,7 @@ bool Lage::genagelt() const {
     return true;
 }
 
-std::optional<Sitz> Lage::solist() const {
+std::optional<Sitz> Lage::solistSuchen() const {
     if (spiel.solo && spiel.solist) return spiel.solist;
     for (const Sitz x : alleSitze)
         if (glaube(x) == ParteiSolo) return x;

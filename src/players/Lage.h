@@ -136,7 +136,7 @@ public:
     }
     // Known (or certainly) without trump.
     bool ohneTrumpf(Sitz x) const { return wissen.keinTrumpf[x][ich] || werte.fremdeTruempfe == 0; }
-    std::optional<Sitz> solist() const;          // declared or believed soloist
+    std::optional<Sitz> solist() const { return solist_; }  // declared or believed soloist
     bool hochzeitsKlaerstich() const;            // this trick may find the Hochzeit partner
     bool binHochzeiter() const { return spiel.hochzeiter == ich; }
     int angespielt(int farbe) const { return wissen.angespielt[static_cast<std::size_t>(farbe)]; }
@@ -178,6 +178,10 @@ public:
 private:
     int staerkeBerechnen(int pos, bool schweinOffen) const;
     void werteBerechnen();
+    std::optional<Sitz> solistSuchen() const;
+
+    // Asked by most rules; the knowledge does not change while a seat decides.
+    std::optional<Sitz> solist_;
 
     // Only a Schwein or a Supersau counts otherwise than the deck says: the positions of
     // such raised cards (at most the two trump Asse), -1 where there is none.

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <tuple>
 
+#include "Bits.h"
 #include "engine/Stichspiel.h"
 
 namespace players {
@@ -98,7 +99,7 @@ void Lage::werteBerechnen() {
     for (int p = 1; p <= deck.kartenanzahl(); ++p) imHand |= std::uint64_t{deck[p].status == InHand} << p;
     const int groesse = deck.handgroesse();
     auto handVon = [&](Sitz x) { return ((std::uint64_t{1} << groesse) - 1) << deck.erstePosition(x); };
-    for (const Sitz x : alleSitze) werte.karten[x] = std::popcount(imHand & handVon(x));
+    for (const Sitz x : alleSitze) werte.karten[x] = anzahlBits(imHand & handVon(x));
 
     // Summed in locals: stores into the members might alias the deck and would be kept in memory.
     // Trumps carry the game type as their suit, so the trump figures are those of that suit.

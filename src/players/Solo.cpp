@@ -8,6 +8,7 @@
 #include <span>
 #include <vector>
 
+#include "Bits.h"
 #include "Kartenliste.h"
 #include "Kontra.h"
 #include "Regeltabelle.h"
@@ -309,8 +310,8 @@ Soloschaetzung soloSchaetzen(const Solokarten& karten, const Regeln& regeln, int
                              double sicherheit) {
     if (art != SoloOhneTrumpf && art >= 1 && art <= AnzahlSpielarten) {
         const std::uint32_t maske = trumpfcodes[static_cast<std::size_t>(art)];
-        const int eigene = std::popcount(karten.eigeneCodes[0] & maske) + std::popcount(karten.eigeneCodes[1] & maske);
-        const int fremde = std::popcount(karten.fremdeCodes[0] & maske) + std::popcount(karten.fremdeCodes[1] & maske);
+        const int eigene = anzahlBits(karten.eigeneCodes[0] & maske) + anzahlBits(karten.eigeneCodes[1] & maske);
+        const int fremde = anzahlBits(karten.fremdeCodes[0] & maske) + anzahlBits(karten.fremdeCodes[1] & maske);
         if (!abziehenDenkbar(eigene, fremde, karten.groessen, sicherheit))
             return {false, false, static_cast<int>(karten.nEigene), NichtSicher};
     }

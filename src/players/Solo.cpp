@@ -24,6 +24,15 @@ namespace {
 
 constexpr int KaroAs = kartencode(Karo, As);
 
+// Counts the elements passing a test, without a branch on it: which cards of a hand pass
+// follows no pattern a processor could guess.
+template <class Bereich, class Test>
+int zaehleWenn(const Bereich& bereich, const Test& test) {
+    int n = 0;
+    for (const auto& x : bereich) n += test(x) ? 1 : 0;
+    return n;
+}
+
 bool laufend(const Spiel& spiel) {
     const Spielphase p = spiel.ablauf.phase;
     return p == Spielphase::Kartenspiel || p == Spielphase::StichVoll || p == Spielphase::Spielende;
@@ -67,7 +76,7 @@ Handdeck deckFuer(const Spiel& spiel, Sitz sitz, int art) {
     }
     const Regeln& r = spiel.regeln;
     auto obenauf = [&](int code) {
-        if (std::count_if(hand.begin(), hand.end(), [&](int p) { return d[p].code == code; }) < 2) return false;
+        if (zaehleWenn(hand, [&](int p) { return d[p].code == code; }) < 2) return false;
         for (int p : hand)
             if (d[p].code == code) d[p].staerke = StaerkeJoker;
         return true;
@@ -326,9 +335,9 @@ Soloschaetzung schaetzen(const Solohaende& h, const Regeln& r, int art, bool amA
     if (art == SoloOhneTrumpf) {
         e.abziehen = e.sicher = true;
     } else {
-        const int oben = static_cast<int>(std::count_if(eigeneKarten.begin(), eigeneKarten.end(), [&](const Solokarte& k) {
+        const int oben = zaehleWenn(eigeneKarten, [&](const Solokarte& k) {
             return k.farbe == art && schlaegtGefuehrt(k.staerke, h.hoechsterFremder, r);
-        }));
+        });
         e.sicher = oben >= h.fremdeTruempfe;
         e.abziehen = oben >= abziehrunden(h.fremdeTruempfe, h.groessen, sicherheit);
     }
@@ -416,7 +425,7 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     const Deck& roh = spiel.deck;
     bool doppelteZehn = false;
     for (int f = Karo; f <= Kreuz; ++f)
-        doppelteZehn = doppelteZehn || std::count_if(hand.begin(), hand.end(), [&](int p) {
+        doppelteZehn = doppelteZehn || zaehleWenn(hand, [&](int p) {
                                            return roh[p].code == kartencode(f, Zehn);
                                        }) == 2;
     if (!doppelteZehn) return 0;
@@ -427,7 +436,7 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     int meiste = -1;
     for (int f = Karo; f <= Kreuz; ++f) {
         const int n =
-            static_cast<int>(std::count_if(hand.begin(), hand.end(), [&](int p) { return ohneFiguren[p].farbe == f; }));
+            zaehleWenn(hand, [&](int p) { return ohneFiguren[p].farbe == f; });
         if (n > meiste) {
             meiste = n;
             farbe = f;
@@ -451,10 +460,10 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     }
     const bool herz = farbe == HerzSolo;
     const int hochGrenze = herz ? 65536 : 262144;
-    if (std::count_if(hand.begin(), hand.end(), [&](int p) { return d[p].farbe == farbe && d[p].staerke > hochGrenze; }) < 3)
+    if (zaehleWenn(hand, [&](int p) { return d[p].farbe == farbe && d[p].staerke > hochGrenze; }) < 3)
         return 0;
     const int tiefGrenze = herz ? 16 : 32;
-    if (std::count_if(hand.begin(), hand.end(), [&](int p) {
+    if (zaehleWenn(hand, [&](int p) {
             return farbeVonCode(d[p].code) == farbe && d[p].farbe == farbe && d[p].staerke < tiefGrenze;
         }) >= 4)
         return 0;
@@ -477,7 +486,7 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
 
 template <class Karten, class Test>
 int zaehle(const Karten& d, const Kartenliste& hand, const Test& test) {
-    return static_cast<int>(std::count_if(hand.begin(), hand.end(), [&](int p) { return test(d[p]); }));
+    return zaehleWenn(hand, [&](int p) { return test(d[p]); });
 }
 
 bool figurenSolo(const Spiel& spiel, Sitz sitz, int rang, bool zuerst) {
@@ -492,39 +501,44 @@ bool figurenSolo(const Spiel& spiel, Sitz sitz, int rang, bool zuerst) {
 bool fleischlos(const Spiel& spiel, Sitz sitz, bool zuerst) {
     const Kartenliste hand = eigeneKarten(spiel, sitz);
     const Handdeck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
-    const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertAs; });
-    const int zehnen = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertZehn; });
+    // One pass over the hand: per suit its cards, Asse, Zehnen and strength.
+    std::array<int, Kreuz + 1> n{};
+    std::array<int, Kreuz + 1> asseDerFarbe{};
+    std::array<int, Kreuz + 1> zehnenDerFarbe{};
+    std::array<int, Kreuz + 1> summe{};
+    for (int p : hand) {
+        const Kartenposition& k = d[p];
+        const auto f = static_cast<std::size_t>(std::clamp(k.farbe, 0, static_cast<int>(Kreuz)));
+        ++n[f];
+        asseDerFarbe[f] += k.wert == WertAs;
+        zehnenDerFarbe[f] += k.wert == WertZehn;
+        summe[f] += k.staerke;
+    }
+    int asse = 0;
+    int zehnen = 0;
+    for (std::size_t f = 0; f <= Kreuz; ++f) {
+        asse += asseDerFarbe[f];
+        zehnen += zehnenDerFarbe[f];
+    }
     if (asse + zehnen > 9 && asse >= 6) return true;
     bool asInJederFarbe = true;
     bool keinSingle = true;
-    for (int f = Karo; f <= Kreuz; ++f) {
-        const int n = zaehle(d, hand, [&](const Kartenposition& k) { return k.farbe == f; });
-        asInJederFarbe = asInJederFarbe && zaehle(d, hand, [&](const Kartenposition& k) {
-                                               return k.farbe == f && k.wert == WertAs;
-                                           }) > 0;
-        keinSingle = keinSingle && n != 1;
+    for (std::size_t f = Karo; f <= Kreuz; ++f) {
+        asInJederFarbe = asInJederFarbe && asseDerFarbe[f] > 0;
+        keinSingle = keinSingle && n[f] != 1;
     }
     if (!zuerst && !(asInJederFarbe && keinSingle)) return false;
     const bool beide = asInJederFarbe && keinSingle;
     int punkte = 0;
     int loseZehnen = 0;
-    for (int f = Karo; f <= Kreuz; ++f) {
-        int summe = 0;
-        int n = 0;
-        int zehnenDerFarbe = 0;
-        for (int p : hand) {
-            if (d[p].farbe != f) continue;
-            summe += d[p].staerke;
-            ++n;
-            if (d[p].wert == WertZehn) ++zehnenDerFarbe;
-        }
-        if (summe >= 2304) {
-            punkte += n;
-        } else if (summe >= 2048) {
-            punkte += beide && summe >= 2176 && n >= 6 ? n - 3 : 2;
+    for (std::size_t f = Karo; f <= Kreuz; ++f) {
+        if (summe[f] >= 2304) {
+            punkte += n[f];
+        } else if (summe[f] >= 2048) {
+            punkte += beide && summe[f] >= 2176 && n[f] >= 6 ? n[f] - 3 : 2;
         } else {
-            if (summe >= 1024) punkte += 1;
-            loseZehnen += zehnenDerFarbe;
+            if (summe[f] >= 1024) punkte += 1;
+            loseZehnen += zehnenDerFarbe[f];
         }
     }
     return punkte >= 9 || (punkte == 8 && loseZehnen == 0);

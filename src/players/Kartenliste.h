@@ -77,7 +77,7 @@ private:
     // Deck positions are 1..48; anything else is never held.
     static std::uint64_t bit(int pos) { return pos >= 0 && pos < 64 ? std::uint64_t{1} << pos : 0; }
 
-    std::array<int, Kapazitaet> karten_{};
+    std::array<int, Kapazitaet> karten_;  // only the first n_ are held; the rest is never read
     std::size_t n_ = 0;
     std::uint64_t maske_ = 0;  // the cards held, by position: membership without a search
 };

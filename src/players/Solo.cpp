@@ -188,12 +188,10 @@ int augenVonCode(int code) { return augenJeCode[static_cast<std::size_t>(code)];
 void fremdeKarteZaehlen(Solohaende& h, int art, int farbe, int staerke, int augen, int anzahl) {
     auto& b = h.besteFremde[static_cast<std::size_t>(farbe)];
     b = std::max(b, staerke);
-    if (farbe == art) {
-        h.fremdeTruempfe += anzahl;
-        h.hoechsterFremder = std::max(h.hoechsterFremder, staerke);
-    } else {
-        h.fettNachAugen[static_cast<std::size_t>(augen)] += anzahl;
-    }
+    const bool trumpf = farbe == art;
+    h.fremdeTruempfe += trumpf ? anzahl : 0;
+    h.hoechsterFremder = std::max(h.hoechsterFremder, trumpf ? staerke : 0);
+    h.fettNachAugen[static_cast<std::size_t>(augen)] += trumpf ? 0 : anzahl;
 }
 
 // The running game's kind: the deck knows every card's suit and strength.
@@ -206,13 +204,14 @@ Solohaende solohaendeDesSpiels(const Spiel& spiel, Sitz sitz, int art) {
         const int erste = d.erstePosition(s);
         for (int p = erste; p < erste + groesse; ++p) {
             const Kartenposition& k = d[p];
-            if (k.status != InHand) continue;
+            const bool da = k.status == InHand;
             if (i == 0) {
-                h.eigene[h.nEigene++] = Solokarte{k.farbe, k.staerke, k.augen};
+                if (da) h.eigene[h.nEigene++] = Solokarte{k.farbe, k.staerke, k.augen};
                 continue;
             }
-            ++h.groessen[static_cast<std::size_t>(i - 1)];
-            fremdeKarteZaehlen(h, art, k.farbe, k.staerke, k.augen, 1);
+            // A played card counts nothing, without a branch on it.
+            h.groessen[static_cast<std::size_t>(i - 1)] += da;
+            fremdeKarteZaehlen(h, art, k.farbe, da ? k.staerke : 0, k.augen, da);
         }
     }
     return h;
@@ -263,9 +262,10 @@ Solohaende solohaendeDerArt(const Solokarten& c, const Regeln& regeln, int art) 
         h.eigene[i] = Solokarte{rang.farbe, rang.staerke, augenVonCode(code)};
     }
     h.nEigene = c.nEigene;
-    for (int code = 1; code < static_cast<int>(c.fremdeJeCode.size()); ++code) {
+    // Only the codes the others hold, walked by their bits.
+    for (std::uint32_t m = c.fremdeCodes[0]; m != 0; m &= m - 1) {
+        const int code = std::countr_zero(m);
         const int n = c.fremdeJeCode[static_cast<std::size_t>(code)];
-        if (n == 0) continue;
         const Rangierung rang = rangierung(code, art);
         fremdeKarteZaehlen(h, art, rang.farbe, rang.staerke, augenVonCode(code), n);
     }

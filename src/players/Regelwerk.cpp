@@ -31,12 +31,13 @@ int Regelwerk::karteWaehlen(const Spiel& spiel, Sitz sitz) {
     melder.entscheidung();
     // The view of the announcement check just made, if it was for this very state; used once.
     // Building a Lage reads nothing the preparation of the move changes.
-    std::optional<Lage> neu;
-    const bool vorbereitet = passt(vorlage_, spiel, sitz);
-    if (!vorbereitet) neu.emplace(spiel, wissen_, sitz, melder, zufall_);
-    const Lage& lage = vorbereitet ? *vorlage_.lage : *neu;
-    wissen_.zugVorbereiten(spiel, sitz, lage.werte.eigeneTruempfe);
-    const int karte = karteNachLage(lage, melder);
+    auto waehlen = [&](const Lage& lage) {
+        wissen_.zugVorbereiten(spiel, sitz, lage.werte.eigeneTruempfe);
+        return karteNachLage(lage, melder);
+    };
+    // (Not an empty std::optional<Lage>: that clears its whole storage first.)
+    const int karte = passt(vorlage_, spiel, sitz) ? waehlen(*vorlage_.lage)
+                                                   : waehlen(Lage(spiel, wissen_, sitz, melder, zufall_));
     vorlage_.verwerfen();
     return karte;
 }

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "Kontra.h"
 #include "Regelhilfen.h"
 #include "Solo.h"
 #include "Texte.h"
@@ -24,24 +25,27 @@ bool istFarbe(const Lage& l, int f) { return f >= 1 && f <= 4 && f != l.trumpf; 
 // but a second Dolle takes the first where that rule is in force).
 int uebermaechtigeTruempfe(const Lage& l) {
     const int fremd = l.werte.hoechsterFremderTrumpf;
+    const bool gleichSchlaegt = !(fremd == StaerkeDolle && !l.spiel.regeln.herzZehn);
     int n = 0;
     for (int p : l.hand) {
-        if (!l.istTrumpf(p)) continue;
         const int s = l.staerke(p);
-        if (s > fremd || (s == fremd && !(s == StaerkeDolle && !l.spiel.regeln.herzZehn))) ++n;
+        n += l.istTrumpf(p) & ((s > fremd) | ((s == fremd) & gleichSchlaegt));
     }
     return n;
 }
 
 // KannTrumpfAbziehen: the own top trumps pull all the others'. A soloist counts on the
 // others' trumps being spread, as his solo evaluation does.
-bool kannTrumpfAbziehen(const Lage& l) {
-    if (uebermaechtigeTruempfe(l) >= l.werte.fremdeTruempfe) return true;
-    return l.wissen.partei[l.ich] == ParteiSolo && soloSchaetzen(l.spiel, l.ich, l.trumpf, true).abziehen;
+bool kannTrumpfAbziehen(const Lage& l, int oben) {
+    if (oben >= l.werte.fremdeTruempfe) return true;
+    return l.wissen.partei[l.ich] == ParteiSolo && soloDenkbar(l, AbziehenSolo) &&
+           soloSchaetzen(l.spiel, l.ich, l.trumpf, true).abziehen;
 }
+bool kannTrumpfAbziehen(const Lage& l) { return kannTrumpfAbziehen(l, uebermaechtigeTruempfe(l)); }
 // Second form: also when no Dolle is out against the own highest trump.
 bool kannTrumpfAbziehen2(const Lage& l) {
-    return kannTrumpfAbziehen(l) || (l.werte.fremdeDollen == 0 && uebermaechtigeTruempfe(l) >= 1);
+    const int oben = uebermaechtigeTruempfe(l);
+    return kannTrumpfAbziehen(l, oben) || (l.werte.fremdeDollen == 0 && oben >= 1);
 }
 void abziehenMelden(const Lage& l, bool zweiteForm) {
     if (!l.melder.zeigt()) return;
@@ -64,22 +68,18 @@ bool gegnerKannTrumpfHaben(const Lage& l) {
 }
 
 int eigenerTrumpfNachRang(const Lage& l, int rang) {
-    std::vector<int> t;
-    for (int p : l.hand)
-        if (l.istTrumpf(p)) t.push_back(p);
-    std::sort(t.begin(), t.end(), [&](int a, int b) { return l.staerke(a) > l.staerke(b); });
+    Kartenliste t = l.hand;
+    t.behalten([&](int p) { return l.istTrumpf(p); });
+    t.sortieren([&](int a, int b) { return l.staerke(a) > l.staerke(b); });
     return rang < static_cast<int>(t.size()) ? t[static_cast<std::size_t>(rang)] : 0;
 }
 
-// The own trumps at the top of all trumps left, without a gap.
+// The own trumps at the top of all trumps left, without a gap: those at least as strong as
+// the others' best (of equal ones the own counts first).
 int hoechsteInFolge(const Lage& l) {
-    std::vector<std::pair<int, bool>> alle;  // strength, own
-    const Deck& deck = l.spiel.deck;
-    for (int p = 1; p <= deck.kartenanzahl(); ++p)
-        if (deck[p].status == InHand && deck[p].farbe == l.trumpf) alle.emplace_back(l.staerke(p), deck.besitzer(p) == l.ich);
-    std::sort(alle.begin(), alle.end(), [](auto a, auto b) { return a.first != b.first ? a.first > b.first : (a.second && !b.second); });
+    const int fremd = l.werte.hoechsterFremderTrumpf;
     int n = 0;
-    while (n < static_cast<int>(alle.size()) && alle[static_cast<std::size_t>(n)].second) ++n;
+    for (int p : l.hand) n += l.istTrumpf(p) && l.staerke(p) >= fremd;
     return n;
 }
 
@@ -338,7 +338,7 @@ int solistSollStechen(const Lage& l) {
 }
 
 int relativZufaellig(const Lage& l) {
-    const std::vector<int> hand = l.sortierteHand();
+    const Kartenliste hand = l.sortierteHand();
     if (l.wissen.stillerSolist == l.ich) {
         for (int p : hand) {
             if (l.istTrumpf(p) && l.augen(p) != 11 && (!l.istDolle(p) || l.spiel.regeln.herzZehn)) return p;

@@ -8,11 +8,9 @@ namespace players {
 
 int rueckfallKarte(const Lage& l) {
     // Few Augen first; a lead prefers a plain card to a trump.
-    int beste = 0;
-    auto schluessel = [&](int p) { return std::make_tuple(l.istTrumpf(p), l.augen(p), l.staerke(p)); };
-    for (int p : l.erlaubt)
-        if (beste == 0 || schluessel(p) < schluessel(beste)) beste = p;
-    return beste;
+    return kleinsteNach(
+        l.erlaubt, [](int) { return true; },
+        [&](int p) { return std::make_tuple(l.istTrumpf(p), l.augen(p), l.staerke(p)); });
 }
 
 namespace {

@@ -17,10 +17,7 @@ std::size_t fi(int farbe) { return static_cast<std::size_t>(farbe); }
 // The legal card that is smallest by `schluessel` among those passing `passt`.
 template <class P, class S>
 int beste(const Lage& l, P passt, S schluessel) {
-    int b = 0;
-    for (int p : l.erlaubt)
-        if (passt(p) && (b == 0 || schluessel(p) < schluessel(b))) b = p;
-    return b;
+    return kleinsteNach(l.erlaubt, passt, schluessel);
 }
 
 }  // namespace
@@ -71,8 +68,8 @@ Folge::Folge(const Lage& lage) : l(lage) {
     anzahlFarbe = farbe > 0 ? l.anzahlInHand(farbe) : 0;
     trumpfAnzahl = l.werte.eigeneTruempfe;
     for (int p : l.erlaubt) {
-        hatFarbkarte = hatFarbkarte || !l.istTrumpf(p);
-        kannSchlagen = kannSchlagen || l.schlaegt(p);
+        hatFarbkarte |= !l.istTrumpf(p);
+        kannSchlagen |= l.schlaegt(p);
     }
 }
 

@@ -25,18 +25,17 @@ Augenstand augenstand(const Lage& l) {
     Augenstand a;
     for (const Sitz x : alleSitze) {
         const int augen = l.spiel.augen[x];
-        if (l.freund(x))
-            a.eigene += augen;
-        else
-            a.andere += augen;
+        const bool freund = l.freund(x);
+        a.eigene += freund ? augen : 0;
+        a.andere += freund ? 0 : augen;
     }
     return a;
 }
 
-int zaehleInHand(const Lage& l, bool (*test)(const Kartenposition&)) {
+template <class Test>
+int zaehleInHand(const Lage& l, Test&& test) {
     int n = 0;
-    for (int p : l.hand)
-        if (test(l.karte(p))) ++n;
+    for (int p : l.hand) n += test(l.karte(p));
     return n;
 }
 
@@ -72,9 +71,9 @@ int ansagewert(const Lage& l) {
     int asse = 0;
     int zehnen = 0;
     for (int p : l.hand) {
-        if (l.istTrumpf(p)) continue;
-        asse += l.karte(p).wert == WertAs;
-        zehnen += l.karte(p).wert == WertZehn;
+        const bool farbkarte = !l.istTrumpf(p);
+        asse += farbkarte & (l.karte(p).wert == WertAs);
+        zehnen += farbkarte & (l.karte(p).wert == WertZehn);
     }
     if (s.solo && s.solist == l.ich)
         w += 10 * asse;
@@ -87,15 +86,25 @@ int ansagewert(const Lage& l) {
     } else {
         // Trump superiority: at least one trump more than every other hand.
         const int eigene = l.werte.eigeneTruempfe;
-        bool ueberlegen = true;
-        for (const Sitz x : alleSitze)
-            if (x != l.ich && eigene - 1 < truempfeInHand(s, x)) ueberlegen = false;
+        // When the others hold fewer together, no hand needs counting.
+        // Some hand holds at least a third of the others' trumps.
+        bool ueberlegen = eigene >= 1 && l.werte.fremdeTruempfe <= 3 * (eigene - 1);
+        if (ueberlegen && l.werte.fremdeTruempfe > eigene - 1)
+            for (const Sitz x : alleSitze)
+                if (x != l.ich && eigene - 1 < truempfeInHand(s, x)) ueberlegen = false;
         if (ueberlegen) w += 11 * eigene;
     }
     return w;
 }
 
 }  // namespace
+
+bool soloDenkbar(const Lage& l, double sicherheit) {
+    if (l.trumpf == SoloOhneTrumpf) return true;
+    std::array<int, 3> groessen{};
+    for (std::size_t i = 0; i < groessen.size(); ++i) groessen[i] = l.werte.karten[l.ich.plus(static_cast<int>(i) + 1)];
+    return abziehenDenkbar(l.werte.eigeneTruempfe, l.werte.fremdeTruempfe, groessen, sicherheit);
+}
 
 Ansagepruefung kontraPruefen(const Lage& l) {
     const Spiel& s = l.spiel;
@@ -144,7 +153,7 @@ Ansagepruefung kontraPruefen(const Lage& l) {
         w = AnsageSicher;
         hart = true;
         l.melder.regel(verfahren::KontraPruefen, "Gewonnen", text::BereitsGewonnen);
-    } else if (l.trumpf != SoloOhneTrumpf || s.solist == l.ich) {
+    } else if ((l.trumpf != SoloOhneTrumpf || s.solist == l.ich) && soloDenkbar(l, AbziehenSolo)) {
         // The others end below what they need against us: 240 - noetig + 1.
         const int verlust = soloSchaetzen(s, l.ich, l.trumpf, spieltZuerstAus(s, l.ich)).augen;
         if (verlust + augen.andere <= 240 - noetig) {
@@ -169,6 +178,7 @@ std::optional<int> limitPruefen(const Lage& l) {
     if (l.anzahl != 0 || s.sticheGespielt == 0 || l.eigenePartei() == ParteiUnbekannt) return std::nullopt;
     for (const Sitz x : alleSitze)
         if (x != l.ich && l.glaube(x) == ParteiUnbekannt) return std::nullopt;
+    if (!soloDenkbar(l, AbziehenLimit)) return std::nullopt;
     const Soloschaetzung e = soloSchaetzen(s, l.ich, l.trumpf, true, AbziehenLimit);
     if (!e.abziehen) return std::nullopt;
     int gegnerAugen = 0;

@@ -1,8 +1,11 @@
 #include "Lage.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <tuple>
 
+#include "Bits.h"
 #include "engine/Stichspiel.h"
 
 namespace players {
@@ -20,15 +23,14 @@ std::size_t fi(int farbe) { return static_cast<std::size_t>(farbe); }
 
 Lage::Lage(const Spiel& s, const Tischwissen& w, Sitz sitz, const Melder& m, Zufallsquelle& z)
     : spiel(s), wissen(w), ich(sitz), melder(m), zufall(z), trumpf(s.spieltyp) {
-    hand = handkarten(spiel, ich);
+    werteBerechnen();
+    solist_ = solistSuchen();
     erlaubt = hand;
     if (spiel.stich.anzahl > 0) {
         // Who holds the suit to follow must follow it (the engine's rule, without a second pass).
         const int f = spiel.stich.farbeZuBedienen;
-        if (std::any_of(hand.begin(), hand.end(), [&](int p) { return spiel.deck[p].farbe == f; }))
-            std::erase_if(erlaubt, [&](int p) { return spiel.deck[p].farbe != f; });
+        if (werte.eigeneAnzahl[fi(f)] > 0) erlaubt.behalten([&](int p) { return spiel.deck[p].farbe == f; });
     }
-    werteBerechnen();
 
     const Deck& deck = spiel.deck;
     const Stich& stich = spiel.stich;
@@ -78,44 +80,73 @@ bool Lage::istFigur(int pos) const { return karte(pos).wert == WertDame || karte
 
 void Lage::werteBerechnen() {
     const Deck& deck = spiel.deck;
-    erhoeht_ = (trumpf == Normalspiel && spiel.schweineHalter) || (spiel.supersauHalter == ich && istFarbspiel(trumpf));
-    if (erhoeht_) {
-        const bool schweinOffen = schweinOeffentlich();
-        for (int p = 1; p <= deck.kartenanzahl(); ++p)
-            staerken_[static_cast<std::size_t>(p)] = staerkeBerechnen(p, schweinOffen);
-    }
+    // Only the trump Asse can be raised, as Schweine or as a Supersau.
+    const bool schwein = trumpf == Normalspiel && spiel.schweineHalter;
+    const bool supersau = spiel.supersauHalter == ich && istFarbspiel(trumpf);
+    const int erhoehbar = schwein || supersau ? kartencode(trumpf, As) : -1;
+    const bool schweinOffen = schwein && schweinOeffentlich();
+    std::size_t erhoehte = 0;
+    auto staerkeVon = [&](int p, const Kartenposition& k) {
+        if (k.code != erhoehbar) return k.staerke;
+        const int st = staerkeBerechnen(p, schweinOffen);
+        if (st != k.staerke && erhoehte < erhoeht_.size()) erhoeht_[erhoehte++] = p;
+        return st;
+    };
+
+    // First the cards still in hand as bits, gathered without a branch per card (which cards
+    // were played follows no pattern a processor could guess); then only those are looked at.
+    std::uint64_t imHand = 0;
+    for (int p = 1; p <= deck.kartenanzahl(); ++p) imHand |= std::uint64_t{deck[p].status == InHand} << p;
     const int groesse = deck.handgroesse();
-    for (const Sitz x : alleSitze) {
-        const bool meine = x == ich;
-        const int erste = deck.erstePosition(x);
-        for (int p = erste; p < erste + groesse; ++p) {
-            const auto& k = deck[p];
-            if (k.status != InHand) continue;
-            const int s = staerke(p);
-            const auto f = fi(k.farbe);
-            if (k.farbe == trumpf) {
-                ++werte.truempfeImSpiel;
-                werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterTrumpfImSpiel, s);
-                if (meine) {
-                    ++werte.eigeneTruempfe;
-                    werte.hoechsterEigenerTrumpf = std::max(werte.hoechsterEigenerTrumpf, s);
-                } else {
-                    ++werte.fremdeTruempfe;
-                    werte.hoechsterFremderTrumpf = std::max(werte.hoechsterFremderTrumpf, s);
-                }
-            }
-            werte.hoechsteOffene[f] = std::max(werte.hoechsteOffene[f], s);
-            if (meine) {
-                ++werte.eigeneAnzahl[f];
-                if (werte.eigeneBeste[f] == 0 || s > staerke(werte.eigeneBeste[f])) werte.eigeneBeste[f] = p;
-            } else {
-                ++werte.fremdeAnzahl[f];
-                werte.hoechsteFremde[f] = std::max(werte.hoechsteFremde[f], s);
-                if (istDolle(p)) ++werte.fremdeDollen;
-                if (istJoker(k.code)) werte.jokerFremd = true;
-            }
-        }
+    auto handVon = [&](Sitz x) { return ((std::uint64_t{1} << groesse) - 1) << deck.erstePosition(x); };
+    for (const Sitz x : alleSitze) werte.karten[x] = anzahlBits(imHand & handVon(x));
+
+    // Summed in locals: stores into the members might alias the deck and would be kept in memory.
+    // Trumps carry the game type as their suit, so the trump figures are those of that suit.
+    std::array<int, AnzahlFarben> besteEigene;
+    besteEigene.fill(-1);
+    std::array<int, AnzahlFarben> eigeneBeste{};
+    std::array<int, AnzahlFarben> eigeneAnzahl{};
+    for (std::uint64_t m = imHand & handVon(ich); m != 0; m &= m - 1) {
+        const int p = std::countr_zero(m);
+        const auto& k = deck[p];
+        const int st = staerkeVon(p, k);
+        const auto f = fi(k.farbe);
+        ++eigeneAnzahl[f];
+        const bool besser = st > besteEigene[f];
+        besteEigene[f] = besser ? st : besteEigene[f];
+        eigeneBeste[f] = besser ? p : eigeneBeste[f];
+        hand.push_back(p);
     }
+    std::array<int, AnzahlFarben> fremdeAnzahl{};
+    std::array<int, AnzahlFarben> hoechsteFremde{};
+    int dollen = 0;
+    bool joker = false;
+    for (std::uint64_t m = imHand & ~handVon(ich); m != 0; m &= m - 1) {
+        const int p = std::countr_zero(m);
+        const auto& k = deck[p];
+        const int st = staerkeVon(p, k);
+        const auto f = fi(k.farbe);
+        ++fremdeAnzahl[f];
+        hoechsteFremde[f] = std::max(hoechsteFremde[f], st);
+        dollen += (k.farbe == trumpf) & (k.code == DolleCode);
+        joker |= istJoker(k.code);
+    }
+    const auto t = fi(trumpf);
+    werte.eigeneBeste = eigeneBeste;
+    werte.eigeneAnzahl = eigeneAnzahl;
+    werte.fremdeAnzahl = fremdeAnzahl;
+    werte.hoechsteFremde = hoechsteFremde;
+    werte.eigeneTruempfe = eigeneAnzahl[t];
+    werte.fremdeTruempfe = fremdeAnzahl[t];
+    werte.hoechsterEigenerTrumpf = std::max(besteEigene[t], 0);
+    werte.hoechsterFremderTrumpf = hoechsteFremde[t];
+    werte.fremdeDollen = dollen;
+    werte.jokerFremd = joker;
+    werte.truempfeImSpiel = werte.eigeneTruempfe + werte.fremdeTruempfe;
+    werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterEigenerTrumpf, werte.hoechsterFremderTrumpf);
+    for (std::size_t f = 0; f < AnzahlFarben; ++f)
+        werte.hoechsteOffene[f] = std::max(hoechsteFremde[f], std::max(besteEigene[f], 0));
     if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {
         // The long suit chosen with the solo; a game taken over midway chooses afresh.
         werte.langeFarbe = wissen.solo.langeFarbe[ich];
@@ -141,17 +172,6 @@ std::vector<Sitz> Lage::nachMir() const {
     std::vector<Sitz> v;
     for (int i = anzahl + 2; i <= 4; ++i) v.push_back(spiel.stich.aufspieler.plus(i - 1));
     return v;
-}
-
-bool Lage::schlaegt(int pos) const {
-    if (anzahl == 0) return true;
-    const auto& bester = karte(gewinnerKarte);
-    const int f = karte(pos).farbe;
-    const int s = staerke(pos);
-    if (f == trumpf && bester.farbe != trumpf) return true;
-    if (f != bester.farbe) return false;
-    if (s > bester.staerke) return true;
-    return s == bester.staerke && s == StaerkeDolle && !spiel.regeln.herzZehn;
 }
 
 bool Lage::kannSchlagen() const {
@@ -208,21 +228,7 @@ bool Lage::genagelt() const {
     return true;
 }
 
-bool Lage::freund(Sitz x) const {
-    if (x == ich) return true;
-    const int e = eigenePartei();
-    const int g = glaube(x);
-    if (e == ParteiUnbekannt || g == ParteiUnbekannt || e == ParteiSolo || g == ParteiSolo) return false;
-    return (e == ParteiKontra) == (g == ParteiKontra);
-}
-
-bool Lage::frei(Sitz x, int farbe) const {
-    return wissen.farbeFrei[x][fi(farbe)][ich] || werte.fremdeAnzahl[fi(farbe)] == 0;
-}
-
-bool Lage::ohneTrumpf(Sitz x) const { return wissen.keinTrumpf[x][ich] || werte.fremdeTruempfe == 0; }
-
-std::optional<Sitz> Lage::solist() const {
+std::optional<Sitz> Lage::solistSuchen() const {
     if (spiel.solo && spiel.solist) return spiel.solist;
     for (const Sitz x : alleSitze)
         if (glaube(x) == ParteiSolo) return x;
@@ -289,18 +295,18 @@ int Lage::hoechsterTrumpf() const {
     return kleinsteErlaubte([this](int p) { return istTrumpf(p); }, [this](int p) { return -staerke(p); });
 }
 
-int Lage::zufaellige(const std::vector<int>& karten) const {
+int Lage::zufaellige(const Kartenliste& karten) const {
     if (karten.empty()) return 0;
     return karten[static_cast<std::size_t>(zufall.ganzzahl(static_cast<int>(karten.size())))];
 }
 
-std::vector<int> Lage::sortierteHand() const {
-    std::vector<int> v = hand;
+Kartenliste Lage::sortierteHand() const {
+    Kartenliste v = hand;
     auto schluessel = [this](int p) {
         if (istTrumpf(p)) return std::make_tuple(0, -staerke(p));
         return std::make_tuple(5 - karte(p).farbe, -staerke(p));
     };
-    std::stable_sort(v.begin(), v.end(), [&](int a, int b) { return schluessel(a) < schluessel(b); });
+    v.stabilSortieren([&](int a, int b) { return schluessel(a) < schluessel(b); });
     return v;
 }
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "Kartenliste.h"
 #include "Melder.h"
 #include "Tischwissen.h"
 #include "engine/Zufall.h"
@@ -28,6 +29,7 @@ struct Zugwerte {
     std::array<int, AnzahlFarben> eigeneBeste{};     // own best card (deck position)
     std::array<int, AnzahlFarben> eigeneAnzahl{};
     int langeFarbe = 0;                // the long suit of a fleischlos solo
+    engine::ProSitz<int> karten;       // cards in each hand
 };
 
 class Lage {
@@ -43,8 +45,8 @@ public:
     const int trumpf;                  // the game type
     Zugwerte werte;
 
-    std::vector<int> hand;             // own cards in hand (deck positions)
-    std::vector<int> erlaubt;          // the legal ones
+    Kartenliste hand;                  // own cards in hand (deck positions)
+    Kartenliste erlaubt;               // the legal ones
 
     // --- The trick so far (anzahl 0 when leading).
     int anzahl = 0;
@@ -68,7 +70,7 @@ public:
     bool istTrumpf(int pos) const { return spiel.deck[pos].farbe == trumpf; }
     // Strength as it will count: a known Schwein counts raised before it is played.
     int staerke(int pos) const {
-        return erhoeht_ ? staerken_[static_cast<std::size_t>(pos)] : spiel.deck[pos].staerke;
+        return pos == erhoeht_[0] || pos == erhoeht_[1] ? engine::StaerkeJoker : spiel.deck[pos].staerke;
     }
     int augen(int pos) const { return spiel.deck[pos].augen; }
     bool istDolle(int pos) const;
@@ -85,8 +87,17 @@ public:
     bool nurTrumpf() const { return werte.eigeneTruempfe == static_cast<int>(hand.size()); }
     bool letzterStich() const { return hand.size() == 1; }
 
-    // Would the card win the trick if played now?
-    bool schlaegt(int pos) const;
+    // Would the card win the trick if played now? (Without branches: asked of every card.)
+    bool schlaegt(int pos) const {
+        if (anzahl == 0) return true;
+        const auto& bester = karte(gewinnerKarte);
+        const int f = karte(pos).farbe;
+        const int s = staerke(pos);
+        const bool sticht = (f == trumpf) & (bester.farbe != trumpf);
+        const bool hoeher = (s > bester.staerke) |
+                            ((s == bester.staerke) & (s == engine::StaerkeDolle) & !spiel.regeln.herzZehn);
+        return sticht | ((f == bester.farbe) & hoeher);
+    }
     bool kannSchlagen() const;
     // Is there still a card out in other hands that beats `staerke` in the suit?
     bool hoehereDraussen(int farbe, int staerke) const;
@@ -106,13 +117,26 @@ public:
     // --- Knowledge from the own point of view.
     int glaube(Sitz x) const { return wissen.glaube(x, ich); }
     int eigenePartei() const { return wissen.glaube(ich, ich); }
-    bool freund(Sitz x) const;
+    bool freund(Sitz x) const {
+        if (x == ich) return true;
+        const int e = eigenePartei();
+        const int g = glaube(x);
+        if (e == engine::ParteiUnbekannt || g == engine::ParteiUnbekannt || e == engine::ParteiSolo ||
+            g == engine::ParteiSolo)
+            return false;
+        return (e == engine::ParteiKontra) == (g == engine::ParteiKontra);
+    }
     bool feind(Sitz x) const { return x != ich && !freund(x); }
     // Another seat believed in a party that is not the own one.
     bool bekannterFeind(Sitz x) const { return feind(x) && glaube(x) != engine::ParteiUnbekannt; }
-    bool frei(Sitz x, int farbe) const;          // known (or certainly) void in the suit
-    bool ohneTrumpf(Sitz x) const;               // known (or certainly) without trump
-    std::optional<Sitz> solist() const;          // declared or believed soloist
+    // Known (or certainly) void in the suit.
+    bool frei(Sitz x, int farbe) const {
+        const auto f = static_cast<std::size_t>(farbe);
+        return wissen.farbeFrei[x][f][ich] || werte.fremdeAnzahl[f] == 0;
+    }
+    // Known (or certainly) without trump.
+    bool ohneTrumpf(Sitz x) const { return wissen.keinTrumpf[x][ich] || werte.fremdeTruempfe == 0; }
+    std::optional<Sitz> solist() const { return solist_; }  // declared or believed soloist
     bool hochzeitsKlaerstich() const;            // this trick may find the Hochzeit partner
     bool binHochzeiter() const { return spiel.hochzeiter == ich; }
     int angespielt(int farbe) const { return wissen.angespielt[static_cast<std::size_t>(farbe)]; }
@@ -126,11 +150,11 @@ public:
     int praktWertkleinsterTrumpf() const;        // trump of least use and few Augen
     int praktWerthoechsterTrumpf() const;        // the small trump of most Augen
     int hoechsterTrumpf() const;
-    int zufaellige(const std::vector<int>& karten) const;
+    int zufaellige(const Kartenliste& karten) const;
     // Own cards matching a test, legal ones only.
     template <class F>
-    std::vector<int> auswahl(F&& test) const {
-        std::vector<int> v;
+    Kartenliste auswahl(F&& test) const {
+        Kartenliste v;
         for (int p : erlaubt)
             if (test(p)) v.push_back(p);
         return v;
@@ -139,13 +163,10 @@ public:
     // without building the list of candidates.
     template <class Test, class Schluessel>
     int kleinsteErlaubte(Test&& test, Schluessel&& schluessel) const {
-        int beste = 0;
-        for (int p : erlaubt)
-            if (test(p) && (beste == 0 || schluessel(p) < schluessel(beste))) beste = p;
-        return beste;
+        return kleinsteNach(erlaubt, test, schluessel);
     }
     // Own hand in display order: trumps from the top, then Kreuz, Pik, Herz, Karo.
-    std::vector<int> sortierteHand() const;
+    Kartenliste sortierteHand() const;
 
     // The Schweine holder is known to every seat (announced, seat 1's own, or one played).
     bool schweinOeffentlich() const;
@@ -157,10 +178,14 @@ public:
 private:
     int staerkeBerechnen(int pos, bool schweinOffen) const;
     void werteBerechnen();
+    std::optional<Sitz> solistSuchen() const;
 
-    // Only a Schwein or a Supersau counts otherwise than the deck says; then staerken_ holds every card.
-    bool erhoeht_ = false;
-    std::array<int, engine::MaxPositionen + 1> staerken_;
+    // Asked by most rules; the knowledge does not change while a seat decides.
+    std::optional<Sitz> solist_;
+
+    // Only a Schwein or a Supersau counts otherwise than the deck says: the positions of
+    // such raised cards (at most the two trump Asse), -1 where there is none.
+    std::array<int, 2> erhoeht_{-1, -1};
 };
 
 }  // namespace players

@@ -5,7 +5,7 @@
 namespace players {
 
 bool istErlaubt(const Lage& lage, int pos) {
-    return pos != 0 && std::find(lage.erlaubt.begin(), lage.erlaubt.end(), pos) != lage.erlaubt.end();
+    return pos != 0 && lage.erlaubt.enthaelt(pos);
 }
 
 int regelnAnwenden(std::span<const Regel> regeln, const Lage& lage, std::string_view verfahren) {

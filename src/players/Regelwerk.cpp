@@ -27,15 +27,22 @@ std::string_view hochzeitCode(int art) {
 int Regelwerk::karteWaehlen(const Spiel& spiel, Sitz sitz) {
     // A game loaded or taken over midway: rebuild what the table has seen.
     if (!wissen_.aktuell(spiel)) wissen_.nachvollziehen(spiel);
-    wissen_.zugVorbereiten(spiel, sitz);
     const Melder melder(senke_, sitz, wissen_.msgBoxModus == MsgBoxZeigen);
     melder.entscheidung();
     // The view of the announcement check just made, if it was for this very state; used once.
-    Vorlage vorlage = std::move(vorlage_);
-    vorlage_ = Vorlage{};
-    std::optional<Lage> neu;
-    if (!passt(vorlage, spiel, sitz)) neu.emplace(spiel, wissen_, sitz, melder, zufall_);
-    const Lage& lage = neu ? *neu : *vorlage.lage;
+    // Building a Lage reads nothing the preparation of the move changes.
+    auto waehlen = [&](const Lage& lage) {
+        wissen_.zugVorbereiten(spiel, sitz, lage.werte.eigeneTruempfe);
+        return karteNachLage(lage, melder);
+    };
+    // (Not an empty std::optional<Lage>: that clears its whole storage first.)
+    const int karte = passt(vorlage_, spiel, sitz) ? waehlen(*vorlage_.lage)
+                                                   : waehlen(Lage(spiel, wissen_, sitz, melder, zufall_));
+    vorlage_.verwerfen();
+    return karte;
+}
+
+int Regelwerk::karteNachLage(const Lage& lage, const Melder& melder) {
     if (lage.erlaubt.empty()) return 0;
     int karte = lage.anzahl == 0 ? ausspielWaehlen(lage) : (art_.bedienen ? art_.bedienen : bedienenWaehlen)(lage);
     if (!istErlaubt(lage, karte)) {
@@ -77,34 +84,37 @@ Vorbehalt Regelwerk::vorbehaltWaehlen(const Spiel& spiel, Sitz sitz) {
 }
 
 std::optional<Ansage> Regelwerk::ansageWaehlen(const Spiel& spiel, Sitz sitz) {
-    vorlage_ = Vorlage{};
+    vorlage_.verwerfen();
     if (!art_.ansagen) return std::nullopt;
     // Re or Kontra is weighed during a trick or before the first card, a limit only when
     // leading after the first trick: elsewhere neither rule can say yes.
     const bool leer = spiel.stich.anzahl == 0 || spiel.stich.komplett();
-    const bool reKontra = ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine &&
-                          !(leer && spiel.sticheGespielt > 0);
+    const bool reKontraErlaubt = ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine;
+    const bool reKontra = reKontraErlaubt && !(leer && spiel.sticheGespielt > 0);
     const bool limit = leer && spiel.sticheGespielt > 0 &&
                        ansageSperre(spiel, sitz, Ansage{true, Keine90}) == Ansagesperre::Keine;
     if (!reKontra && !limit) return std::nullopt;
     if (!wissen_.aktuell(spiel)) wissen_.nachvollziehen(spiel);
-    Vorlage v;
+    Vorlage& v = vorlage_;
+    v.melder.emplace(senke_, sitz, wissen_.msgBoxModus == MsgBoxZeigen);
+    const Lage& lage = v.lage.emplace(spiel, wissen_, sitz, *v.melder, zufall_);
+    if (reKontraErlaubt && kontraPruefen(lage).ansagen) {
+        v.verwerfen();
+        return Ansage{};
+    }
+    if (const auto code = limitPruefen(lage)) {
+        v.verwerfen();
+        return Ansage{true, *code};
+    }
     v.spiel = &spiel;
     v.sitz = sitz;
     v.karten = spiel.sticheGespielt * 4 + spiel.stich.anzahl;
     v.ansagen = spiel.ansagen.size();
-    v.melder = std::make_unique<Melder>(senke_, sitz, wissen_.msgBoxModus == MsgBoxZeigen);
-    v.lage = std::make_unique<Lage>(spiel, wissen_, sitz, *v.melder, zufall_);
-    const Lage& lage = *v.lage;
-    vorlage_ = Vorlage{};
-    if (ansageSperre(spiel, sitz, Ansage{}) == Ansagesperre::Keine && kontraPruefen(lage).ansagen) return Ansage{};
-    if (const auto code = limitPruefen(lage)) return Ansage{true, *code};
-    vorlage_ = std::move(v);
     return std::nullopt;
 }
 
 bool Regelwerk::passt(const Vorlage& v, const Spiel& spiel, Sitz sitz) const {
-    return v.lage && v.spiel == &spiel && v.sitz == sitz && v.karten == spiel.sticheGespielt * 4 + spiel.stich.anzahl &&
+    return v.lage && v.melder && v.spiel == &spiel && v.sitz == sitz && v.karten == spiel.sticheGespielt * 4 + spiel.stich.anzahl &&
            v.ansagen == spiel.ansagen.size() && v.melder->zeigt() == (senke_ && wissen_.msgBoxModus == MsgBoxZeigen);
 }
 

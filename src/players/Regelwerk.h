@@ -1,7 +1,7 @@
 #pragma once
 // The rule book player: reservations, announcements, leads and follows by the
 // ordered rule tables, with the knowledge shared by the computer seats of its table.
-#include <memory>
+#include <optional>
 
 #include "Begruendung.h"
 #include "Lage.h"
@@ -40,10 +40,17 @@ private:
         Sitz sitz{1};
         int karten = -1;
         std::size_t ansagen = 0;
-        std::unique_ptr<Melder> melder;
-        std::unique_ptr<Lage> lage;
+        // In place rather than on the heap: one is made before most cards.
+        std::optional<Melder> melder;
+        std::optional<Lage> lage;
+        void verwerfen() {
+            lage.reset();
+            melder.reset();
+            spiel = nullptr;
+        }
     };
     bool passt(const Vorlage& v, const Spiel& spiel, Sitz sitz) const;
+    int karteNachLage(const Lage& lage, const Melder& melder);
 
     Vorlage vorlage_;
     Tischwissen& wissen_;

@@ -3,9 +3,13 @@
 
 #include <algorithm>
 #include <atomic>
+#include <bit>
+#include <cstdint>
 #include <span>
 #include <vector>
 
+#include "Bits.h"
+#include "Kartenliste.h"
 #include "Kontra.h"
 #include "Regeltabelle.h"
 #include "Texte.h"
@@ -20,21 +24,59 @@ namespace {
 
 constexpr int KaroAs = kartencode(Karo, As);
 
+// Counts the elements passing a test, without a branch on it: which cards of a hand pass
+// follows no pattern a processor could guess.
+template <class Bereich, class Test>
+int zaehleWenn(const Bereich& bereich, const Test& test) {
+    int n = 0;
+    for (const auto& x : bereich) n += test(x) ? 1 : 0;
+    return n;
+}
+
 bool laufend(const Spiel& spiel) {
     const Spielphase p = spiel.ablauf.phase;
     return p == Spielphase::Kartenspiel || p == Spielphase::StichVoll || p == Spielphase::Spielende;
 }
 
-// The deck with the strengths of a kind. The running game keeps its own; for another
+// The own hand in hand, as positions.
+Kartenliste eigeneKarten(const Spiel& spiel, Sitz sitz) {
+    Kartenliste hand;
+    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
+        if (spiel.deck[p].status == InHand) hand.push_back(p);
+    return hand;
+}
+
+// The seat's own positions of the deck with the strengths of a kind; read by position
+// like the deck, without copying the other hands.
+class Handdeck {
+public:
+    Handdeck(const Deck& deck, Sitz sitz) : erste_(deck.erstePosition(sitz)) {
+        for (int p = erste_; p <= deck.letztePosition(sitz); ++p) karten_[index(p)] = deck[p];
+    }
+    const Kartenposition& operator[](int pos) const { return karten_[index(pos)]; }
+    Kartenposition& operator[](int pos) { return karten_[index(pos)]; }
+
+private:
+    std::size_t index(int pos) const { return static_cast<std::size_t>(pos - erste_); }
+    int erste_;
+    std::array<Kartenposition, MaxPositionen / 4> karten_;  // every position of the seat is set
+};
+
+// The own cards with the strengths of a kind. The running game keeps its own; for another
 // kind the own Schweine and an own Supersau rank at the top (another seat's are unknown).
-Deck deckFuer(const Spiel& spiel, Sitz sitz, int art) {
-    if (laufend(spiel) && art == spiel.spieltyp) return spiel.deck;
-    Deck d = spiel.deck;
-    d.staerkenBerechnen(art);
+Handdeck deckFuer(const Spiel& spiel, Sitz sitz, int art) {
+    Handdeck d(spiel.deck, sitz);
+    if (laufend(spiel) && art == spiel.spieltyp) return d;
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
+    for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p) {
+        if (d[p].code == 0) continue;
+        const Rangierung r = rangierung(d[p].code, art);
+        d[p].farbe = r.farbe;
+        d[p].staerke = r.staerke;
+    }
     const Regeln& r = spiel.regeln;
-    const std::vector<int> hand = handkarten(spiel, sitz);
     auto obenauf = [&](int code) {
-        if (std::count_if(hand.begin(), hand.end(), [&](int p) { return d[p].code == code; }) < 2) return false;
+        if (zaehleWenn(hand, [&](int p) { return d[p].code == code; }) < 2) return false;
         for (int p : hand)
             if (d[p].code == code) d[p].staerke = StaerkeJoker;
         return true;
@@ -146,12 +188,10 @@ int augenVonCode(int code) { return augenJeCode[static_cast<std::size_t>(code)];
 void fremdeKarteZaehlen(Solohaende& h, int art, int farbe, int staerke, int augen, int anzahl) {
     auto& b = h.besteFremde[static_cast<std::size_t>(farbe)];
     b = std::max(b, staerke);
-    if (farbe == art) {
-        h.fremdeTruempfe += anzahl;
-        h.hoechsterFremder = std::max(h.hoechsterFremder, staerke);
-    } else {
-        h.fettNachAugen[static_cast<std::size_t>(augen)] += anzahl;
-    }
+    const bool trumpf = farbe == art;
+    h.fremdeTruempfe += trumpf ? anzahl : 0;
+    h.hoechsterFremder = std::max(h.hoechsterFremder, trumpf ? staerke : 0);
+    h.fettNachAugen[static_cast<std::size_t>(augen)] += trumpf ? 0 : anzahl;
 }
 
 // The running game's kind: the deck knows every card's suit and strength.
@@ -164,13 +204,14 @@ Solohaende solohaendeDesSpiels(const Spiel& spiel, Sitz sitz, int art) {
         const int erste = d.erstePosition(s);
         for (int p = erste; p < erste + groesse; ++p) {
             const Kartenposition& k = d[p];
-            if (k.status != InHand) continue;
+            const bool da = k.status == InHand;
             if (i == 0) {
-                h.eigene[h.nEigene++] = Solokarte{k.farbe, k.staerke, k.augen};
+                if (da) h.eigene[h.nEigene++] = Solokarte{k.farbe, k.staerke, k.augen};
                 continue;
             }
-            ++h.groessen[static_cast<std::size_t>(i - 1)];
-            fremdeKarteZaehlen(h, art, k.farbe, k.staerke, k.augen, 1);
+            // A played card counts nothing, without a branch on it.
+            h.groessen[static_cast<std::size_t>(i - 1)] += da;
+            fremdeKarteZaehlen(h, art, k.farbe, da ? k.staerke : 0, k.augen, da);
         }
     }
     return h;
@@ -195,6 +236,15 @@ Solokarten solokarten(const Spiel& spiel, Sitz sitz) {
             }
         }
     }
+    // The codes held once or more and twice, as bits: a deck holds no code three times.
+    std::array<int, 26> eigeneJeCode{};
+    for (std::size_t i = 0; i < c.nEigene; ++i) ++eigeneJeCode[static_cast<std::size_t>(c.eigene[i])];
+    for (std::size_t code = 1; code < eigeneJeCode.size(); ++code) {
+        for (std::size_t n = 0; n < 2; ++n) {
+            c.eigeneCodes[n] |= static_cast<std::uint32_t>(eigeneJeCode[code] > static_cast<int>(n)) << code;
+            c.fremdeCodes[n] |= static_cast<std::uint32_t>(c.fremdeJeCode[code] > static_cast<int>(n)) << code;
+        }
+    }
     c.beideKreuzDamen = hatBeideKreuzDamen(spiel, sitz);
     return c;
 }
@@ -212,9 +262,10 @@ Solohaende solohaendeDerArt(const Solokarten& c, const Regeln& regeln, int art) 
         h.eigene[i] = Solokarte{rang.farbe, rang.staerke, augenVonCode(code)};
     }
     h.nEigene = c.nEigene;
-    for (int code = 1; code < static_cast<int>(c.fremdeJeCode.size()); ++code) {
+    // Only the codes the others hold, walked by their bits.
+    for (std::uint32_t m = c.fremdeCodes[0]; m != 0; m &= m - 1) {
+        const int code = std::countr_zero(m);
         const int n = c.fremdeJeCode[static_cast<std::size_t>(code)];
-        if (n == 0) continue;
         const Rangierung rang = rangierung(code, art);
         fremdeKarteZaehlen(h, art, rang.farbe, rang.staerke, augenVonCode(code), n);
     }
@@ -253,8 +304,26 @@ Soloschaetzung soloSchaetzen(const Spiel& spiel, Sitz sitz, int art, bool amAufs
     return soloSchaetzen(solokarten(spiel, sitz), spiel.regeln, art, amAufspiel, sicherheit);
 }
 
+namespace {
+// Per kind the codes that are trump in it, as bits.
+const std::array<std::uint32_t, AnzahlSpielarten + 1> trumpfcodes = [] {
+    std::array<std::uint32_t, AnzahlSpielarten + 1> t{};
+    for (int art = 1; art <= AnzahlSpielarten; ++art)
+        for (int code = 1; code <= 25; ++code)
+            if (rangierung(code, art).farbe == art) t[static_cast<std::size_t>(art)] |= 1u << code;
+    return t;
+}();
+}  // namespace
+
 Soloschaetzung soloSchaetzen(const Solokarten& karten, const Regeln& regeln, int art, bool amAufspiel,
                              double sicherheit) {
+    if (art != SoloOhneTrumpf && art >= 1 && art <= AnzahlSpielarten) {
+        const std::uint32_t maske = trumpfcodes[static_cast<std::size_t>(art)];
+        const int eigene = anzahlBits(karten.eigeneCodes[0] & maske) + anzahlBits(karten.eigeneCodes[1] & maske);
+        const int fremde = anzahlBits(karten.fremdeCodes[0] & maske) + anzahlBits(karten.fremdeCodes[1] & maske);
+        if (!abziehenDenkbar(eigene, fremde, karten.groessen, sicherheit))
+            return {false, false, static_cast<int>(karten.nEigene), NichtSicher};
+    }
     return schaetzen(solohaendeDerArt(karten, regeln, art), regeln, art, amAufspiel, sicherheit);
 }
 
@@ -266,9 +335,9 @@ Soloschaetzung schaetzen(const Solohaende& h, const Regeln& r, int art, bool amA
     if (art == SoloOhneTrumpf) {
         e.abziehen = e.sicher = true;
     } else {
-        const int oben = static_cast<int>(std::count_if(eigeneKarten.begin(), eigeneKarten.end(), [&](const Solokarte& k) {
+        const int oben = zaehleWenn(eigeneKarten, [&](const Solokarte& k) {
             return k.farbe == art && schlaegtGefuehrt(k.staerke, h.hoechsterFremder, r);
-        }));
+        });
         e.sicher = oben >= h.fremdeTruempfe;
         e.abziehen = oben >= abziehrunden(h.fremdeTruempfe, h.groessen, sicherheit);
     }
@@ -303,7 +372,7 @@ Soloschaetzung schaetzen(const Solohaende& h, const Regeln& r, int art, bool amA
 
 Soloarten soloartenAusRegeln(const Regeln& regeln) {
     Soloarten arten{};
-    for (int art : erlaubteSoloarten(regeln)) arten[static_cast<std::size_t>(art)] = true;
+    for (int art = 1; art <= AnzahlSpielarten; ++art) arten[static_cast<std::size_t>(art)] = soloErlaubt(regeln, art);
     return arten;
 }
 
@@ -352,22 +421,22 @@ namespace {
 
 // Steps 2 to 6: a colour with many trumps, its Zehn and As, high trumps and no blank side card.
 int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen, bool& still) {
-    const std::vector<int> hand = handkarten(spiel, sitz);
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
     const Deck& roh = spiel.deck;
     bool doppelteZehn = false;
     for (int f = Karo; f <= Kreuz; ++f)
-        doppelteZehn = doppelteZehn || std::count_if(hand.begin(), hand.end(), [&](int p) {
+        doppelteZehn = doppelteZehn || zaehleWenn(hand, [&](int p) {
                                            return roh[p].code == kartencode(f, Zehn);
                                        }) == 2;
     if (!doppelteZehn) return 0;
 
     // Damen and Buben out of the way, each suit counts its As, Zehn, König and Neun.
-    const Deck ohneFiguren = deckFuer(spiel, sitz, DamenBubenSolo);
+    const Handdeck ohneFiguren = deckFuer(spiel, sitz, DamenBubenSolo);
     int farbe = 0;
     int meiste = -1;
     for (int f = Karo; f <= Kreuz; ++f) {
         const int n =
-            static_cast<int>(std::count_if(hand.begin(), hand.end(), [&](int p) { return ohneFiguren[p].farbe == f; }));
+            zaehleWenn(hand, [&](int p) { return ohneFiguren[p].farbe == f; });
         if (n > meiste) {
             meiste = n;
             farbe = f;
@@ -375,7 +444,7 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     }
     if (!arten[static_cast<std::size_t>(farbe)]) return 0;
 
-    const Deck d = deckFuer(spiel, sitz, farbe);
+    const Handdeck d = deckFuer(spiel, sitz, farbe);
     int truempfe = 0;
     int zehnUndAs = 0;
     for (int p : hand) {
@@ -391,10 +460,10 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     }
     const bool herz = farbe == HerzSolo;
     const int hochGrenze = herz ? 65536 : 262144;
-    if (std::count_if(hand.begin(), hand.end(), [&](int p) { return d[p].farbe == farbe && d[p].staerke > hochGrenze; }) < 3)
+    if (zaehleWenn(hand, [&](int p) { return d[p].farbe == farbe && d[p].staerke > hochGrenze; }) < 3)
         return 0;
     const int tiefGrenze = herz ? 16 : 32;
-    if (std::count_if(hand.begin(), hand.end(), [&](int p) {
+    if (zaehleWenn(hand, [&](int p) {
             return farbeVonCode(d[p].code) == farbe && d[p].farbe == farbe && d[p].staerke < tiefGrenze;
         }) >= 4)
         return 0;
@@ -402,22 +471,26 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
         // A blank side card that is no As is lost at once and opens the suit for the others.
         for (int f = Karo; f <= Kreuz; ++f) {
             if (f == farbe) continue;
-            std::vector<int> karten;
+            int n = 0;
+            int einzige = 0;
             for (int p : hand)
-                if (d[p].farbe == f) karten.push_back(p);
-            if (karten.size() == 1 && d[karten.front()].wert != WertAs) return 0;
+                if (d[p].farbe == f) {
+                    ++n;
+                    einzige = p;
+                }
+            if (n == 1 && d[einzige].wert != WertAs) return 0;
         }
     }
     return farbe;
 }
 
-template <class Test>
-int zaehle(const Deck& d, const std::vector<int>& hand, const Test& test) {
-    return static_cast<int>(std::count_if(hand.begin(), hand.end(), [&](int p) { return test(d[p]); }));
+template <class Karten, class Test>
+int zaehle(const Karten& d, const Kartenliste& hand, const Test& test) {
+    return zaehleWenn(hand, [&](int p) { return test(d[p]); });
 }
 
 bool figurenSolo(const Spiel& spiel, Sitz sitz, int rang, bool zuerst) {
-    const std::vector<int> hand = handkarten(spiel, sitz);
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
     const Deck& d = spiel.deck;
     const int figuren = zaehle(d, hand, [&](const Kartenposition& k) { return !istJoker(k.code) && rangVonCode(k.code) == rang; });
     const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertAs; });
@@ -426,49 +499,54 @@ bool figurenSolo(const Spiel& spiel, Sitz sitz, int rang, bool zuerst) {
 
 // Step 10: aces and tens, else points for suits headed by As-As-Zehn, As-As, a single As.
 bool fleischlos(const Spiel& spiel, Sitz sitz, bool zuerst) {
-    const std::vector<int> hand = handkarten(spiel, sitz);
-    const Deck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
-    const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertAs; });
-    const int zehnen = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertZehn; });
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
+    const Handdeck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
+    // One pass over the hand: per suit its cards, Asse, Zehnen and strength.
+    std::array<int, Kreuz + 1> n{};
+    std::array<int, Kreuz + 1> asseDerFarbe{};
+    std::array<int, Kreuz + 1> zehnenDerFarbe{};
+    std::array<int, Kreuz + 1> summe{};
+    for (int p : hand) {
+        const Kartenposition& k = d[p];
+        const auto f = static_cast<std::size_t>(std::clamp(k.farbe, 0, static_cast<int>(Kreuz)));
+        ++n[f];
+        asseDerFarbe[f] += k.wert == WertAs;
+        zehnenDerFarbe[f] += k.wert == WertZehn;
+        summe[f] += k.staerke;
+    }
+    int asse = 0;
+    int zehnen = 0;
+    for (std::size_t f = 0; f <= Kreuz; ++f) {
+        asse += asseDerFarbe[f];
+        zehnen += zehnenDerFarbe[f];
+    }
     if (asse + zehnen > 9 && asse >= 6) return true;
     bool asInJederFarbe = true;
     bool keinSingle = true;
-    for (int f = Karo; f <= Kreuz; ++f) {
-        const int n = zaehle(d, hand, [&](const Kartenposition& k) { return k.farbe == f; });
-        asInJederFarbe = asInJederFarbe && zaehle(d, hand, [&](const Kartenposition& k) {
-                                               return k.farbe == f && k.wert == WertAs;
-                                           }) > 0;
-        keinSingle = keinSingle && n != 1;
+    for (std::size_t f = Karo; f <= Kreuz; ++f) {
+        asInJederFarbe = asInJederFarbe && asseDerFarbe[f] > 0;
+        keinSingle = keinSingle && n[f] != 1;
     }
     if (!zuerst && !(asInJederFarbe && keinSingle)) return false;
     const bool beide = asInJederFarbe && keinSingle;
     int punkte = 0;
     int loseZehnen = 0;
-    for (int f = Karo; f <= Kreuz; ++f) {
-        int summe = 0;
-        int n = 0;
-        int zehnenDerFarbe = 0;
-        for (int p : hand) {
-            if (d[p].farbe != f) continue;
-            summe += d[p].staerke;
-            ++n;
-            if (d[p].wert == WertZehn) ++zehnenDerFarbe;
-        }
-        if (summe >= 2304) {
-            punkte += n;
-        } else if (summe >= 2048) {
-            punkte += beide && summe >= 2176 && n >= 6 ? n - 3 : 2;
+    for (std::size_t f = Karo; f <= Kreuz; ++f) {
+        if (summe[f] >= 2304) {
+            punkte += n[f];
+        } else if (summe[f] >= 2048) {
+            punkte += beide && summe[f] >= 2176 && n[f] >= 6 ? n[f] - 3 : 2;
         } else {
-            if (summe >= 1024) punkte += 1;
-            loseZehnen += zehnenDerFarbe;
+            if (summe[f] >= 1024) punkte += 1;
+            loseZehnen += zehnenDerFarbe[f];
         }
     }
     return punkte >= 9 || (punkte == 8 && loseZehnen == 0);
 }
 
 int langeFarbe(const Spiel& spiel, Sitz sitz) {
-    const std::vector<int> hand = handkarten(spiel, sitz);
-    const Deck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
+    const Handdeck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
     int farbe = 0;
     int meiste = 0;
     for (int f = Karo; f <= Kreuz; ++f) {
@@ -547,8 +625,8 @@ int pflichtsoloArt(const Spiel& spiel, Sitz sitz, const Soloarten& arten) {
 }
 
 Hochzeitwahl hochzeitArtWaehlen(const Spiel& spiel, Sitz sitz) {
-    const std::vector<int> hand = handkarten(spiel, sitz);
-    const Deck d = deckFuer(spiel, sitz, Normalspiel);
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
+    const Handdeck d = deckFuer(spiel, sitz, Normalspiel);
     const int truempfe = zaehle(d, hand, [](const Kartenposition& k) { return k.farbe == Normalspiel; });
     const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.farbe != Normalspiel && k.wert == WertAs; });
     if (truempfe >= 7) return {ErsterFehlstich, text::HochzeitFehlstich};

@@ -3,6 +3,7 @@
 // kind (SoloBewerten, SicheresSolo), the unsafe solo steps (SoloPruefen), the
 // silent solo, the duty solo and the kind of a Hochzeit.
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 #include "Melder.h"
@@ -36,6 +37,9 @@ struct Solokarten {
     std::array<int, 26> fremdeJeCode{};
     std::array<int, 3> groessen{};  // the other hands in seat order after the seat
     bool beideKreuzDamen = false;
+    // Bit `code` of [0]: held once or more, of [1]: held twice (own hand, the other hands).
+    std::array<std::uint32_t, 2> eigeneCodes{};
+    std::array<std::uint32_t, 2> fremdeCodes{};
 };
 Solokarten solokarten(const Spiel& spiel, Sitz sitz);
 
@@ -51,6 +55,14 @@ Soloschaetzung soloSchaetzen(const Solokarten& karten, const engine::Regeln& reg
 // The rounds of trump leads after which, with the given confidence, none of the other
 // hands (sizes as given) holds trump any more when `fremde` trumps are spread over them.
 int abziehrunden(int fremde, const std::array<int, 3>& handgroessen, double sicherheit);
+
+// Whether `eigene` trumps could pull `fremde` at all: when not, the estimate is the one of a
+// hand that cannot pull (NichtSicher), whatever the cards are. Most hands end here, cheaply.
+inline bool abziehenDenkbar(int eigene, int fremde, const std::array<int, 3>& handgroessen, double sicherheit) {
+    // Some hand holds at least a third of the others' trumps, so fewer rounds never do.
+    if (fremde > 0 && eigene < (fremde + 2) / 3) return false;
+    return eigene >= abziehrunden(fremde, handgroessen, sicherheit);
+}
 
 // Own trumps in the kind (cards in hand).
 int truempfeIn(const Spiel& spiel, Sitz sitz, int art);

@@ -41,8 +41,9 @@ int parteibild(Sitz sitz, int parteiBekannt) {
 
 int truempfeInHand(const Spiel& spiel, Sitz sitz) {
     int n = 0;
+    // Counted without a branch: which cards are left follows no pattern.
     for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p)
-        if (spiel.deck[p].status == InHand && spiel.deck[p].farbe == spiel.spieltyp) ++n;
+        n += (spiel.deck[p].status == InHand) & (spiel.deck[p].farbe == spiel.spieltyp);
     return n;
 }
 
@@ -315,12 +316,16 @@ void Tischwissen::parteizeigerSetzen(const Spiel& spiel) {
 }
 
 void Tischwissen::zugVorbereiten(const Spiel& spiel, Sitz sitz) {
+    zugVorbereiten(spiel, sitz, truempfeInHand(spiel, sitz));
+}
+
+void Tischwissen::zugVorbereiten(const Spiel& spiel, Sitz sitz, int eigeneTruempfe) {
     // Drawn only in the first trick, and only for these seats and moments: a game
     // keeps its first-trick number for all later tricks.
     const int n = spiel.stich.anzahl;
     if (spiel.sticheGespielt == 0 && ((n == 0 && sitz != Sitz(1)) || (n == 1 && sitz == Sitz(2))))
         zufallszahl = static_cast<int>(zufall_->rnd() * 100 + 1);
-    if (truempfeInHand(spiel, sitz) == 0) keinTrumpf[sitz][sitz] = true;
+    if (eigeneTruempfe == 0) keinTrumpf[sitz][sitz] = true;
 }
 
 void Tischwissen::nachvollziehen(const Spiel& spiel) {

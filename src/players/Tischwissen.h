@@ -73,6 +73,8 @@ public:
     void parteizeigerSetzen(const Spiel& spiel);
     // Before every computer card: the random number of the first trick, own trumps.
     void zugVorbereiten(const Spiel& spiel, Sitz sitz);
+    // ... when the caller has counted the seat's trumps already.
+    void zugVorbereiten(const Spiel& spiel, Sitz sitz, int eigeneTruempfe);
     // Rebuilds the knowledge from the game so far (a loaded game, a seat taken over).
     void nachvollziehen(const Spiel& spiel);
     // Whether the knowledge has seen every card of the game so far.

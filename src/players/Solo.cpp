@@ -185,7 +185,7 @@ constexpr auto augenJeCode = [] {
 }();
 int augenVonCode(int code) { return augenJeCode[static_cast<std::size_t>(code)]; }
 
-void fremdeKarteZaehlen(Solohaende& h, int art, int farbe, int staerke, int augen, int anzahl) {
+inline void fremdeKarteZaehlen(Solohaende& h, int art, int farbe, int staerke, int augen, int anzahl) {
     auto& b = h.besteFremde[static_cast<std::size_t>(farbe)];
     b = std::max(b, staerke);
     const bool trumpf = farbe == art;

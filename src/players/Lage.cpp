@@ -96,6 +96,7 @@ void Lage::werteBerechnen() {
     // First the cards still in hand as bits, gathered without a branch per card (which cards
     // were played follows no pattern a processor could guess); then only those are looked at.
     std::uint64_t imHand = 0;
+#pragma GCC unroll 8
     for (int p = 1; p <= deck.kartenanzahl(); ++p) imHand |= std::uint64_t{deck[p].status == InHand} << p;
     const int groesse = deck.handgroesse();
     auto handVon = [&](Sitz x) { return ((std::uint64_t{1} << groesse) - 1) << deck.erstePosition(x); };

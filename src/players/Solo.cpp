@@ -380,9 +380,11 @@ int soloBewerten(const Spiel& spiel, Sitz sitz, int art, Solotabellen& tabellen)
 }
 
 int soloBewerten(const Spiel& spiel, const Solokarten& karten, Sitz sitz, int art, Solotabellen& tabellen) {
-    const Soloschaetzung e = laufend(spiel) && art == spiel.spieltyp
-                                 ? soloSchaetzen(spiel, sitz, art, spieltZuerstAus(spiel, sitz))
-                                 : soloSchaetzen(karten, spiel.regeln, art, spieltZuerstAus(spiel, sitz));
+    // A hand that does not lead loses every trick in the estimate, whatever it holds.
+    const bool zuerst = spieltZuerstAus(spiel, sitz);
+    const Soloschaetzung e = !zuerst ? Soloschaetzung{false, false, static_cast<int>(karten.nEigene), NichtSicher}
+                             : laufend(spiel) && art == spiel.spieltyp ? soloSchaetzen(spiel, sitz, art, true)
+                                                                       : soloSchaetzen(karten, spiel.regeln, art, true);
     const auto i = static_cast<std::size_t>(art);
     tabellen.stichVerlust[sitz][i] = e.stiche;
     tabellen.augenVerlust[sitz][i] = e.augen;
@@ -390,6 +392,15 @@ int soloBewerten(const Spiel& spiel, const Solokarten& karten, Sitz sitz, int ar
 }
 
 int sicheresSolo(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen) {
+    if (!spieltZuerstAus(spiel, sitz)) {
+        // Without the lead no kind is safe: every estimate loses the whole hand.
+        const int karten = static_cast<int>(eigeneKarten(spiel, sitz).size());
+        for (std::size_t i = 1; i <= AnzahlSpielarten; ++i) {
+            tabellen.stichVerlust[sitz][i] = karten;
+            tabellen.augenVerlust[sitz][i] = arten[i] ? NichtSicher : NieSicher;
+        }
+        return 0;
+    }
     ProSpielart wert{};
     const Solokarten karten = solokarten(spiel, sitz);
     for (int art = 1; art <= AnzahlSpielarten; ++art) {

@@ -117,10 +117,9 @@ int blankeDolle(const Lage& l) {
 }
 
 int asAusspielen(const Lage& l) {
-    std::vector<int> asse;
-    for (int p : l.hand)
-        if (!l.istTrumpf(p) && l.karte(p).wert == WertAs) asse.push_back(p);
-    std::vector<int> kandidaten;
+    Kartenliste asse = l.hand;
+    asse.behalten([&](int p) { return !l.istTrumpf(p) && l.karte(p).wert == WertAs; });
+    Kartenliste kandidaten;
     bool zweiteRunde = false;
     for (int p : asse) {
         const int f = l.karte(p).farbe;
@@ -274,11 +273,12 @@ int mittelmaessigerTrumpf(const Lage& l) {
     if (l.werte.fremdeTruempfe == 0) return 0;
     for (int f = 1; f <= 4; ++f)
         if (istFarbe(l, f) && l.anzahlInHand(f) > 0 && !gegnerStichtFarbe(l, f)) return 0;
-    std::vector<int> mittel;
-    for (int p : l.hand)
-        if (l.istTrumpf(p) && !l.istZaehler(p) && l.staerke(p) < l.werte.hoechsterFremderTrumpf) mittel.push_back(p);
+    Kartenliste mittel = l.hand;
+    mittel.behalten([&](int p) {
+        return l.istTrumpf(p) && !l.istZaehler(p) && l.staerke(p) < l.werte.hoechsterFremderTrumpf;
+    });
     if (mittel.empty()) return 0;
-    std::sort(mittel.begin(), mittel.end(), [&](int a, int b) { return l.staerke(a) < l.staerke(b); });
+    mittel.sortieren([&](int a, int b) { return l.staerke(a) < l.staerke(b); });
     return mittel[mittel.size() / 2];
 }
 

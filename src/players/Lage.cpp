@@ -96,6 +96,7 @@ void Lage::werteBerechnen() {
     // First the cards still in hand as bits, gathered without a branch per card (which cards
     // were played follows no pattern a processor could guess); then only those are looked at.
     std::uint64_t imHand = 0;
+#pragma GCC unroll 8
     for (int p = 1; p <= deck.kartenanzahl(); ++p) imHand |= std::uint64_t{deck[p].status == InHand} << p;
     const int groesse = deck.handgroesse();
     auto handVon = [&](Sitz x) { return ((std::uint64_t{1} << groesse) - 1) << deck.erstePosition(x); };
@@ -120,6 +121,8 @@ void Lage::werteBerechnen() {
     }
     std::array<int, AnzahlFarben> fremdeAnzahl{};
     std::array<int, AnzahlFarben> hoechsteFremde{};
+    // The Herz-Zehn is a trump (a Dolle) in the colour games only.
+    const int trumpfDolle = istFarbspiel(trumpf) ? DolleCode : -1;
     int dollen = 0;
     bool joker = false;
     for (std::uint64_t m = imHand & ~handVon(ich); m != 0; m &= m - 1) {
@@ -129,7 +132,7 @@ void Lage::werteBerechnen() {
         const auto f = fi(k.farbe);
         ++fremdeAnzahl[f];
         hoechsteFremde[f] = std::max(hoechsteFremde[f], st);
-        dollen += (k.farbe == trumpf) & (k.code == DolleCode);
+        dollen += k.code == trumpfDolle;
         joker |= istJoker(k.code);
     }
     const auto t = fi(trumpf);
@@ -145,8 +148,10 @@ void Lage::werteBerechnen() {
     werte.jokerFremd = joker;
     werte.truempfeImSpiel = werte.eigeneTruempfe + werte.fremdeTruempfe;
     werte.hoechsterTrumpfImSpiel = std::max(werte.hoechsterEigenerTrumpf, werte.hoechsterFremderTrumpf);
-    for (std::size_t f = 0; f < AnzahlFarben; ++f)
-        werte.hoechsteOffene[f] = std::max(hoechsteFremde[f], std::max(besteEigene[f], 0));
+    // Cards carry a plain suit or the trump value; every other entry stays 0.
+    auto offen = [&](std::size_t f) { werte.hoechsteOffene[f] = std::max(hoechsteFremde[f], std::max(besteEigene[f], 0)); };
+    for (std::size_t f = Karo; f <= Kreuz; ++f) offen(f);
+    if (t < AnzahlFarben) offen(t);
     if (trumpf == SoloOhneTrumpf && spiel.solist == ich) {
         // The long suit chosen with the solo; a game taken over midway chooses afresh.
         werte.langeFarbe = wissen.solo.langeFarbe[ich];

@@ -64,10 +64,9 @@ private:
 
 // The own cards with the strengths of a kind. The running game keeps its own; for another
 // kind the own Schweine and an own Supersau rank at the top (another seat's are unknown).
-Handdeck deckFuer(const Spiel& spiel, Sitz sitz, int art) {
+Handdeck deckFuer(const Spiel& spiel, Sitz sitz, const Kartenliste& hand, int art) {
     Handdeck d(spiel.deck, sitz);
     if (laufend(spiel) && art == spiel.spieltyp) return d;
-    const Kartenliste hand = eigeneKarten(spiel, sitz);
     for (int p = spiel.deck.erstePosition(sitz); p <= spiel.deck.letztePosition(sitz); ++p) {
         if (d[p].code == 0) continue;
         const Rangierung r = rangierung(d[p].code, art);
@@ -185,7 +184,7 @@ constexpr auto augenJeCode = [] {
 }();
 int augenVonCode(int code) { return augenJeCode[static_cast<std::size_t>(code)]; }
 
-void fremdeKarteZaehlen(Solohaende& h, int art, int farbe, int staerke, int augen, int anzahl) {
+inline void fremdeKarteZaehlen(Solohaende& h, int art, int farbe, int staerke, int augen, int anzahl) {
     auto& b = h.besteFremde[static_cast<std::size_t>(farbe)];
     b = std::max(b, staerke);
     const bool trumpf = farbe == art;
@@ -381,9 +380,11 @@ int soloBewerten(const Spiel& spiel, Sitz sitz, int art, Solotabellen& tabellen)
 }
 
 int soloBewerten(const Spiel& spiel, const Solokarten& karten, Sitz sitz, int art, Solotabellen& tabellen) {
-    const Soloschaetzung e = laufend(spiel) && art == spiel.spieltyp
-                                 ? soloSchaetzen(spiel, sitz, art, spieltZuerstAus(spiel, sitz))
-                                 : soloSchaetzen(karten, spiel.regeln, art, spieltZuerstAus(spiel, sitz));
+    // A hand that does not lead loses every trick in the estimate, whatever it holds.
+    const bool zuerst = spieltZuerstAus(spiel, sitz);
+    const Soloschaetzung e = !zuerst ? Soloschaetzung{false, false, static_cast<int>(karten.nEigene), NichtSicher}
+                             : laufend(spiel) && art == spiel.spieltyp ? soloSchaetzen(spiel, sitz, art, true)
+                                                                       : soloSchaetzen(karten, spiel.regeln, art, true);
     const auto i = static_cast<std::size_t>(art);
     tabellen.stichVerlust[sitz][i] = e.stiche;
     tabellen.augenVerlust[sitz][i] = e.augen;
@@ -391,6 +392,15 @@ int soloBewerten(const Spiel& spiel, const Solokarten& karten, Sitz sitz, int ar
 }
 
 int sicheresSolo(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen) {
+    if (!spieltZuerstAus(spiel, sitz)) {
+        // Without the lead no kind is safe: every estimate loses the whole hand.
+        const int karten = static_cast<int>(eigeneKarten(spiel, sitz).size());
+        for (std::size_t i = 1; i <= AnzahlSpielarten; ++i) {
+            tabellen.stichVerlust[sitz][i] = karten;
+            tabellen.augenVerlust[sitz][i] = arten[i] ? NichtSicher : NieSicher;
+        }
+        return 0;
+    }
     ProSpielart wert{};
     const Solokarten karten = solokarten(spiel, sitz);
     for (int art = 1; art <= AnzahlSpielarten; ++art) {
@@ -420,8 +430,8 @@ int sicheresSolo(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabe
 namespace {
 
 // Steps 2 to 6: a colour with many trumps, its Zehn and As, high trumps and no blank side card.
-int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen, bool& still) {
-    const Kartenliste hand = eigeneKarten(spiel, sitz);
+int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Kartenliste& hand, const Soloarten& arten,
+                   Solotabellen& tabellen, bool& still) {
     const Deck& roh = spiel.deck;
     bool doppelteZehn = false;
     for (int f = Karo; f <= Kreuz; ++f)
@@ -431,7 +441,7 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     if (!doppelteZehn) return 0;
 
     // Damen and Buben out of the way, each suit counts its As, Zehn, König and Neun.
-    const Handdeck ohneFiguren = deckFuer(spiel, sitz, DamenBubenSolo);
+    const Handdeck ohneFiguren = deckFuer(spiel, sitz, hand, DamenBubenSolo);
     int farbe = 0;
     int meiste = -1;
     for (int f = Karo; f <= Kreuz; ++f) {
@@ -444,7 +454,7 @@ int unsichereFarbe(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solota
     }
     if (!arten[static_cast<std::size_t>(farbe)]) return 0;
 
-    const Handdeck d = deckFuer(spiel, sitz, farbe);
+    const Handdeck d = deckFuer(spiel, sitz, hand, farbe);
     int truempfe = 0;
     int zehnUndAs = 0;
     for (int p : hand) {
@@ -489,8 +499,7 @@ int zaehle(const Karten& d, const Kartenliste& hand, const Test& test) {
     return zaehleWenn(hand, [&](int p) { return test(d[p]); });
 }
 
-bool figurenSolo(const Spiel& spiel, Sitz sitz, int rang, bool zuerst) {
-    const Kartenliste hand = eigeneKarten(spiel, sitz);
+bool figurenSolo(const Spiel& spiel, const Kartenliste& hand, int rang, bool zuerst) {
     const Deck& d = spiel.deck;
     const int figuren = zaehle(d, hand, [&](const Kartenposition& k) { return !istJoker(k.code) && rangVonCode(k.code) == rang; });
     const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.wert == WertAs; });
@@ -498,9 +507,8 @@ bool figurenSolo(const Spiel& spiel, Sitz sitz, int rang, bool zuerst) {
 }
 
 // Step 10: aces and tens, else points for suits headed by As-As-Zehn, As-As, a single As.
-bool fleischlos(const Spiel& spiel, Sitz sitz, bool zuerst) {
-    const Kartenliste hand = eigeneKarten(spiel, sitz);
-    const Handdeck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
+bool fleischlos(const Spiel& spiel, Sitz sitz, const Kartenliste& hand, bool zuerst) {
+    const Handdeck d = deckFuer(spiel, sitz, hand, SoloOhneTrumpf);
     // One pass over the hand: per suit its cards, Asse, Zehnen and strength.
     std::array<int, Kreuz + 1> n{};
     std::array<int, Kreuz + 1> asseDerFarbe{};
@@ -544,9 +552,8 @@ bool fleischlos(const Spiel& spiel, Sitz sitz, bool zuerst) {
     return punkte >= 9 || (punkte == 8 && loseZehnen == 0);
 }
 
-int langeFarbe(const Spiel& spiel, Sitz sitz) {
-    const Kartenliste hand = eigeneKarten(spiel, sitz);
-    const Handdeck d = deckFuer(spiel, sitz, SoloOhneTrumpf);
+int langeFarbe(const Spiel& spiel, Sitz sitz, const Kartenliste& hand) {
+    const Handdeck d = deckFuer(spiel, sitz, hand, SoloOhneTrumpf);
     int farbe = 0;
     int meiste = 0;
     for (int f = Karo; f <= Kreuz; ++f) {
@@ -577,12 +584,13 @@ std::string_view sologrundCode(Sologrund grund) {
 Solowahl soloPruefen(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen,
                      const Melder& melder) {
     Solowahl w;
+    const Kartenliste hand = eigeneKarten(spiel, sitz);
     const bool beideKreuzDamen = hatBeideKreuzDamen(spiel, sitz);
     w.art = sicheresSolo(spiel, sitz, arten, tabellen);
     if (w.art != 0) {
         w.grund = Sologrund::Sicher;
         if (beideKreuzDamen && w.art == Normalspiel) tabellen.stillesSoloSpieler = sitz;
-        if (w.art == SoloOhneTrumpf) tabellen.langeFarbe[sitz] = langeFarbe(spiel, sitz);
+        if (w.art == SoloOhneTrumpf) tabellen.langeFarbe[sitz] = langeFarbe(spiel, sitz, hand);
         melder.regel(verfahren::SoloPruefen, sologrundCode(w.grund),
                      text::spieler(sitz) + std::string(text::SicheresSoloMitte) + std::to_string(w.art) +
                          std::string(text::SicheresSoloEnde));
@@ -591,18 +599,18 @@ Solowahl soloPruefen(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solo
     const bool zuerst = spieltZuerstAus(spiel, sitz);
     bool still = false;
     const auto erlaubt = [&](int art) { return arten[static_cast<std::size_t>(art)]; };
-    if ((w.art = unsichereFarbe(spiel, sitz, arten, tabellen, still)) != 0) {
+    if ((w.art = unsichereFarbe(spiel, sitz, hand, arten, tabellen, still)) != 0) {
         w.grund = Sologrund::Farbe;
         if (still) return w;
     } else if (erlaubt(DamenBubenSolo) && truempfeIn(spiel, sitz, DamenBubenSolo) > (zuerst ? 9 : 10)) {
         w = {DamenBubenSolo, Sologrund::DamenBuben};
-    } else if (erlaubt(BubenSolo) && figurenSolo(spiel, sitz, Bube, zuerst)) {
+    } else if (erlaubt(BubenSolo) && figurenSolo(spiel, hand, Bube, zuerst)) {
         w = {BubenSolo, Sologrund::Buben};
-    } else if (erlaubt(DamenSolo) && figurenSolo(spiel, sitz, Dame, zuerst)) {
+    } else if (erlaubt(DamenSolo) && figurenSolo(spiel, hand, Dame, zuerst)) {
         w = {DamenSolo, Sologrund::Damen};
-    } else if (erlaubt(SoloOhneTrumpf) && fleischlos(spiel, sitz, zuerst)) {
+    } else if (erlaubt(SoloOhneTrumpf) && fleischlos(spiel, sitz, hand, zuerst)) {
         w = {SoloOhneTrumpf, Sologrund::Fleischlos};
-        tabellen.langeFarbe[sitz] = langeFarbe(spiel, sitz);
+        tabellen.langeFarbe[sitz] = langeFarbe(spiel, sitz, hand);
     }
     if (w.art != 0)
         melder.regel(verfahren::SoloPruefen, sologrundCode(w.grund),
@@ -626,7 +634,7 @@ int pflichtsoloArt(const Spiel& spiel, Sitz sitz, const Soloarten& arten) {
 
 Hochzeitwahl hochzeitArtWaehlen(const Spiel& spiel, Sitz sitz) {
     const Kartenliste hand = eigeneKarten(spiel, sitz);
-    const Handdeck d = deckFuer(spiel, sitz, Normalspiel);
+    const Handdeck d = deckFuer(spiel, sitz, hand, Normalspiel);
     const int truempfe = zaehle(d, hand, [](const Kartenposition& k) { return k.farbe == Normalspiel; });
     const int asse = zaehle(d, hand, [](const Kartenposition& k) { return k.farbe != Normalspiel && k.wert == WertAs; });
     if (truempfe >= 7) return {ErsterFehlstich, text::HochzeitFehlstich};

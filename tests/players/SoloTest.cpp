@@ -149,6 +149,24 @@ TEST(SicheresSolo, GleicherVerlustMehrTruempfeDannHerz) {
     }
 }
 
+// A seat that does not lead is never safe; its tables hold what the estimate says.
+TEST(SicheresSolo, OhneAufspielWieDieSchaetzung) {
+    for (const int vorhand : {1, 2}) {
+        Vorbehaltlage v(zehnHoheTruempfe(KreuzAs, KreuzAs), vorhand);
+        const auto arten = players::soloartenAusRegeln(v.s.spiel.regeln);
+        const int art = players::sicheresSolo(v.s.spiel, Sitz(1), arten, v.tabellen);
+        EXPECT_EQ(art, vorhand == 1 ? engine::KreuzSolo : 0) << vorhand;
+        if (vorhand == 1) continue;
+        const auto karten = players::solokarten(v.s.spiel, Sitz(1));
+        for (int a = engine::Normalspiel; a <= engine::SoloOhneTrumpf; ++a) {
+            const auto i = static_cast<std::size_t>(a);
+            const auto e = players::soloSchaetzen(karten, v.s.spiel.regeln, a, false);
+            EXPECT_EQ(v.tabellen.stichVerlust[Sitz(1)][i], e.stiche) << a;
+            EXPECT_EQ(v.tabellen.augenVerlust[Sitz(1)][i], arten[i] ? e.augen : players::NieSicher) << a;
+        }
+    }
+}
+
 std::vector<int> mit(std::vector<int> hand, int karte) {
     hand.push_back(karte);
     return hand;

@@ -1,5 +1,7 @@
 #include "Turnier.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -70,7 +72,8 @@ Mittelwert mittelwert(const std::vector<double>& werte) {
     return m;
 }
 
-Turnierergebnis turnier(const Turnierauftrag& auftrag, players::Regelstatistik* statistik) {
+Turnierergebnis turnier(const Turnierauftrag& auftrag, players::Regelstatistik* statistik,
+                        const std::function<void(int, int)>& fortschritt) {
     Turnierergebnis ergebnis;
     std::vector<double> paare;
     paare.reserve(static_cast<std::size_t>(std::max(auftrag.deals, 0)));
@@ -83,6 +86,7 @@ Turnierergebnis turnier(const Turnierauftrag& auftrag, players::Regelstatistik* 
         // The two games of a deal form one pair, so the luck of the cards cancels out.
         paare.push_back((hin + rueck) / 2.0);
         ergebnis.spiele += 2;
+        if (fortschritt) fortschritt(d + 1, auftrag.deals);
     }
     const Mittelwert m = mittelwert(paare);
     ergebnis.diff = m.mittel;
@@ -124,7 +128,18 @@ int turnierStarten(const Aufruf& aufruf) {
     if (!laufVorbereiten(aufruf, auftrag.seed, optionen)) return 2;
     if (optionen) auftrag.regeln = optionen->regeln;
     players::Regelstatistik statistik;
-    const Turnierergebnis ergebnis = turnier(auftrag, aufruf.statistik ? &statistik : nullptr);
+    // A long tournament shows how far it is, on a terminal only: a pipe gets the result lines alone.
+    std::function<void(int, int)> fortschritt;
+    if (isatty(STDERR_FILENO)) {
+        fortschritt = [prozent = -1](int gespielt, int alle) mutable {
+            const int jetzt = 100 * gespielt / std::max(alle, 1);
+            if (jetzt == prozent && gespielt != alle) return;
+            prozent = jetzt;
+            std::cerr << "\rTurnier: " << gespielt << " von " << alle << " Deals gespielt (" << jetzt << " %)"
+                      << (gespielt == alle ? "\n" : "") << std::flush;
+        };
+    }
+    const Turnierergebnis ergebnis = turnier(auftrag, aufruf.statistik ? &statistik : nullptr, fortschritt);
     if (aufruf.statistik) std::cout << statistik.bericht();
     if (!ergebnis.denkzeiten.empty()) std::cout << denkzeitZeile(ergebnis.denkzeiten) << "\n";
     if (ergebnis.abgelehnt > 0) std::cout << "Abgelehnte Antworten: " << ergebnis.abgelehnt << "\n";

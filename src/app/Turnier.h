@@ -2,6 +2,7 @@
 // Tournaments between computer player kinds: seeded deals played twice, kind A at
 // seats 1 and 3 and kind B at 2 and 4, then swapped; points per game compared.
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -38,8 +39,10 @@ struct Mittelwert {
 };
 Mittelwert mittelwert(const std::vector<double>& werte);
 
-// `statistik` (optional) counts the rule book's reasoning of both kinds.
-Turnierergebnis turnier(const Turnierauftrag& auftrag, players::Regelstatistik* statistik = nullptr);
+// `statistik` (optional) counts the rule book's reasoning of both kinds; `fortschritt`
+// (optional) hears after every deal how many of all are played.
+Turnierergebnis turnier(const Turnierauftrag& auftrag, players::Regelstatistik* statistik = nullptr,
+                        const std::function<void(int gespielt, int alle)>& fortschritt = {});
 // "Bedenkzeit je Entscheidung: Median ... ms, 99. Perzentil ... ms" (not empty).
 std::string denkzeitZeile(std::vector<double> zeiten);
 std::string turnierZeile(const Turnierauftrag& auftrag, const Turnierergebnis& ergebnis);

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <vector>
+
 #include "Turnier.h"
 #include "players/Regelstatistik.h"
 
@@ -27,7 +30,16 @@ TEST(Turnier, GleicheArtenHebenSichAuf) {
         auftrag.deals = 25;
         auftrag.seed = 11;
         auftrag.a = auftrag.b = art;
-        const app::Turnierergebnis e = app::turnier(auftrag);
+        std::vector<int> fortschritt;
+        const app::Turnierergebnis e = app::turnier(auftrag, nullptr, [&](int gespielt, int alle) {
+            EXPECT_EQ(alle, 25);
+            fortschritt.push_back(gespielt);
+        });
+        // The progress hears of every deal once, in order.
+        ASSERT_EQ(fortschritt.size(), 25u) << art;
+        EXPECT_EQ(fortschritt.front(), 1);
+        EXPECT_EQ(fortschritt.back(), 25);
+        EXPECT_TRUE(std::is_sorted(fortschritt.begin(), fortschritt.end()));
         EXPECT_EQ(e.spiele, 50) << art;
         EXPECT_DOUBLE_EQ(e.diff, 0.0) << art;
         EXPECT_DOUBLE_EQ(e.ci95, 0.0) << art;

@@ -16,26 +16,11 @@ public:
     using value_type = int;
     using const_iterator = const int*;
 
-    Kartenliste() = default;
-    template <class Bereich>
-    static Kartenliste aus(const Bereich& karten) {
-        Kartenliste l;
-        for (int p : karten) l.push_back(p);
-        return l;
-    }
-
     // A card beyond a hand's size is dropped rather than written past the end.
     void push_back(int pos) {
         if (n_ >= Kapazitaet) return;
         karten_[n_++] = pos;
         maske_ |= bit(pos);
-    }
-    // Appends the card when `ja`, without a branch on it (for lists built from a mask).
-    void anhaengenFalls(int pos, bool ja) {
-        if (n_ >= Kapazitaet) return;
-        karten_[n_] = pos;
-        n_ += ja;
-        maske_ |= ja ? bit(pos) : 0;
     }
     // Keeps the cards that pass the test, in their order.
     template <class Test>
@@ -77,7 +62,7 @@ private:
     // Deck positions are 1..48; anything else is never held.
     static std::uint64_t bit(int pos) { return pos >= 0 && pos < 64 ? std::uint64_t{1} << pos : 0; }
 
-    std::array<int, Kapazitaet> karten_;  // only the first n_ are held; the rest is never read
+    std::array<int, Kapazitaet> karten_{};  // the first n_ are held
     std::size_t n_ = 0;
     std::uint64_t maske_ = 0;  // the cards held, by position: membership without a search
 };

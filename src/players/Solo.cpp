@@ -59,7 +59,7 @@ public:
 private:
     std::size_t index(int pos) const { return static_cast<std::size_t>(pos - erste_); }
     int erste_;
-    std::array<Kartenposition, MaxPositionen / 4> karten_;  // every position of the seat is set
+    std::array<Kartenposition, MaxPositionen / 4> karten_{};
 };
 
 // The own cards with the strengths of a kind. The running game keeps its own; for another

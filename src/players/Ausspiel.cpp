@@ -4,7 +4,6 @@
 #include <array>
 #include <string>
 
-#include "Kontra.h"
 #include "Regelhilfen.h"
 #include "Solo.h"
 #include "Texte.h"
@@ -38,7 +37,7 @@ int uebermaechtigeTruempfe(const Lage& l) {
 // others' trumps being spread, as his solo evaluation does.
 bool kannTrumpfAbziehen(const Lage& l, int oben) {
     if (oben >= l.werte.fremdeTruempfe) return true;
-    return l.wissen.partei[l.ich] == ParteiSolo && soloDenkbar(l, AbziehenSolo) &&
+    return l.wissen.partei[l.ich] == ParteiSolo && l.abziehenDenkbar(AbziehenSolo) &&
            soloSchaetzen(l.spiel, l.ich, l.trumpf, true).abziehen;
 }
 bool kannTrumpfAbziehen(const Lage& l) { return kannTrumpfAbziehen(l, uebermaechtigeTruempfe(l)); }

@@ -8,9 +8,8 @@ namespace players {
 
 int rueckfallKarte(const Lage& l) {
     // Few Augen first; a lead prefers a plain card to a trump.
-    return kleinsteNach(
-        l.erlaubt, [](int) { return true; },
-        [&](int p) { return std::make_tuple(l.istTrumpf(p), l.augen(p), l.staerke(p)); });
+    return l.kleinsteErlaubte([](int) { return true; },
+                              [&](int p) { return std::make_tuple(l.istTrumpf(p), l.augen(p), l.staerke(p)); });
 }
 
 namespace {

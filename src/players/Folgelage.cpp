@@ -39,8 +39,7 @@ Folge::Folge(const Lage& lage) : l(lage) {
     letzterStich = l.hand.size() == 1;
     vorletzterStich = l.hand.size() == 2;
 
-    for (int i = l.anzahl + 2; i <= 4; ++i)
-        nach[static_cast<std::size_t>(nachAnzahl++)] = l.spiel.stich.aufspieler.plus(i - 1);
+    for (const Sitz x : l.nachMir()) nach[static_cast<std::size_t>(nachAnzahl++)] = x;
     for (int i = 0; i < nachAnzahl; ++i) {
         const Sitz x = nach[static_cast<std::size_t>(i)];
         const bool nimmt = kannNehmen(x, l.karte(wKarte).farbe, wStaerke);

@@ -86,8 +86,8 @@ int ansagewert(const Lage& l) {
     } else {
         // Trump superiority: at least one trump more than every other hand.
         const int eigene = l.werte.eigeneTruempfe;
-        // When the others hold fewer together, no hand needs counting.
-        // Some hand holds at least a third of the others' trumps.
+        // Hands are counted only where it matters: some hand holds at least a third of the
+        // others' trumps, and none can hold more than all of them together.
         bool ueberlegen = eigene >= 1 && l.werte.fremdeTruempfe <= 3 * (eigene - 1);
         if (ueberlegen && l.werte.fremdeTruempfe > eigene - 1)
             for (const Sitz x : alleSitze)
@@ -98,13 +98,6 @@ int ansagewert(const Lage& l) {
 }
 
 }  // namespace
-
-bool soloDenkbar(const Lage& l, double sicherheit) {
-    if (l.trumpf == SoloOhneTrumpf) return true;
-    std::array<int, 3> groessen{};
-    for (std::size_t i = 0; i < groessen.size(); ++i) groessen[i] = l.werte.karten[l.ich.plus(static_cast<int>(i) + 1)];
-    return abziehenDenkbar(l.werte.eigeneTruempfe, l.werte.fremdeTruempfe, groessen, sicherheit);
-}
 
 Ansagepruefung kontraPruefen(const Lage& l) {
     const Spiel& s = l.spiel;
@@ -153,7 +146,7 @@ Ansagepruefung kontraPruefen(const Lage& l) {
         w = AnsageSicher;
         hart = true;
         l.melder.regel(verfahren::KontraPruefen, "Gewonnen", text::BereitsGewonnen);
-    } else if ((l.trumpf != SoloOhneTrumpf || s.solist == l.ich) && soloDenkbar(l, AbziehenSolo)) {
+    } else if ((l.trumpf != SoloOhneTrumpf || s.solist == l.ich) && l.abziehenDenkbar(AbziehenSolo)) {
         // The others end below what they need against us: 240 - noetig + 1.
         const int verlust = soloSchaetzen(s, l.ich, l.trumpf, spieltZuerstAus(s, l.ich)).augen;
         if (verlust + augen.andere <= 240 - noetig) {
@@ -178,7 +171,7 @@ std::optional<int> limitPruefen(const Lage& l) {
     if (l.anzahl != 0 || s.sticheGespielt == 0 || l.eigenePartei() == ParteiUnbekannt) return std::nullopt;
     for (const Sitz x : alleSitze)
         if (x != l.ich && l.glaube(x) == ParteiUnbekannt) return std::nullopt;
-    if (!soloDenkbar(l, AbziehenLimit)) return std::nullopt;
+    if (!l.abziehenDenkbar(AbziehenLimit)) return std::nullopt;
     const Soloschaetzung e = soloSchaetzen(s, l.ich, l.trumpf, true, AbziehenLimit);
     if (!e.abziehen) return std::nullopt;
     int gegnerAugen = 0;

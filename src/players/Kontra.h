@@ -22,10 +22,6 @@ struct Ansagepruefung {
     int wert = 0;  // AnsageWert when the decision was taken
 };
 
-// Whether the seat's trumps could pull the others' at all (with the confidence asked);
-// when not, the solo estimate of the running game says it cannot.
-bool soloDenkbar(const Lage& lage, double sicherheit);
-
 // KontraPruefen, before a card of the seat of `lage`. On an empty trick it only
 // decides before the first card of the game.
 Ansagepruefung kontraPruefen(const Lage& lage);

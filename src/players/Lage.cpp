@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "Bits.h"
+#include "Solo.h"
 #include "engine/Stichspiel.h"
 
 namespace players {
@@ -173,9 +174,9 @@ void Lage::werteBerechnen() {
     }
 }
 
-std::vector<Sitz> Lage::nachMir() const {
-    std::vector<Sitz> v;
-    for (int i = anzahl + 2; i <= 4; ++i) v.push_back(spiel.stich.aufspieler.plus(i - 1));
+Lage::Sitzfolge Lage::nachMir() const {
+    Sitzfolge v;
+    for (int i = anzahl + 2; i <= 4; ++i) v.sitze[v.anzahl++] = spiel.stich.aufspieler.plus(i - 1);
     return v;
 }
 
@@ -222,15 +223,22 @@ bool Lage::kannUebernehmen(Sitz x, int farbe, int s) const {
 
 bool Lage::nagelt(int pos) const {
     if (!schlaegt(pos)) return false;
-    for (int i = anzahl + 2; i <= 4; ++i)
-        if (kannUebernehmen(spiel.stich.aufspieler.plus(i - 1), karte(pos).farbe, staerke(pos))) return false;
+    for (const Sitz x : nachMir())
+        if (kannUebernehmen(x, karte(pos).farbe, staerke(pos))) return false;
     return true;
 }
 
 bool Lage::genagelt() const {
-    for (int i = anzahl + 2; i <= 4; ++i)
-        if (kannUebernehmen(spiel.stich.aufspieler.plus(i - 1))) return false;
+    for (const Sitz x : nachMir())
+        if (kannUebernehmen(x)) return false;
     return true;
+}
+
+bool Lage::abziehenDenkbar(double sicherheit) const {
+    if (trumpf == SoloOhneTrumpf) return true;
+    std::array<int, 3> groessen{};
+    for (std::size_t i = 0; i < groessen.size(); ++i) groessen[i] = werte.karten[ich.plus(static_cast<int>(i) + 1)];
+    return players::abziehenDenkbar(werte.eigeneTruempfe, werte.fremdeTruempfe, groessen, sicherheit);
 }
 
 std::optional<Sitz> Lage::solistSuchen() const {

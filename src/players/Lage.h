@@ -4,7 +4,6 @@
 // choices the rule books are written in ("Kleinste", "Höchste", ...).
 #include <array>
 #include <optional>
-#include <vector>
 
 #include "Kartenliste.h"
 #include "Melder.h"
@@ -60,8 +59,14 @@ public:
     bool zweithand() const { return anzahl == 1; }
     bool dritthand() const { return anzahl == 2; }
     bool hinterhand() const { return anzahl == 3; }
-    // Seats still to play after this one.
-    std::vector<Sitz> nachMir() const;
+    // Seats still to play after this one, in order (asked at most cards, so not on the heap).
+    struct Sitzfolge {
+        std::array<Sitz, 3> sitze{Sitz(1), Sitz(1), Sitz(1)};
+        std::size_t anzahl = 0;
+        const Sitz* begin() const { return sitze.data(); }
+        const Sitz* end() const { return sitze.data() + anzahl; }
+    };
+    Sitzfolge nachMir() const;
     Sitz hinterhandSitz() const { return spiel.stich.aufspieler.plus(3); }
     Sitz dritthandSitz() const { return spiel.stich.aufspieler.plus(2); }
 
@@ -137,6 +142,9 @@ public:
     // Known (or certainly) without trump.
     bool ohneTrumpf(Sitz x) const { return wissen.keinTrumpf[x][ich] || werte.fremdeTruempfe == 0; }
     std::optional<Sitz> solist() const { return solist_; }  // declared or believed soloist
+    // Whether the own trumps could pull the others' at all (with the confidence asked);
+    // when not, the solo estimate of the running game says they cannot.
+    bool abziehenDenkbar(double sicherheit) const;
     bool hochzeitsKlaerstich() const;            // this trick may find the Hochzeit partner
     bool binHochzeiter() const { return spiel.hochzeiter == ich; }
     int angespielt(int farbe) const { return wissen.angespielt[static_cast<std::size_t>(farbe)]; }

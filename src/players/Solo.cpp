@@ -375,16 +375,10 @@ Soloarten soloartenAusRegeln(const Regeln& regeln) {
     return arten;
 }
 
-int soloBewerten(const Spiel& spiel, Sitz sitz, int art, Solotabellen& tabellen) {
-    return soloBewerten(spiel, solokarten(spiel, sitz), sitz, art, tabellen);
-}
-
 int soloBewerten(const Spiel& spiel, const Solokarten& karten, Sitz sitz, int art, Solotabellen& tabellen) {
-    // A hand that does not lead loses every trick in the estimate, whatever it holds.
     const bool zuerst = spieltZuerstAus(spiel, sitz);
-    const Soloschaetzung e = !zuerst ? Soloschaetzung{false, false, static_cast<int>(karten.nEigene), NichtSicher}
-                             : laufend(spiel) && art == spiel.spieltyp ? soloSchaetzen(spiel, sitz, art, true)
-                                                                       : soloSchaetzen(karten, spiel.regeln, art, true);
+    const Soloschaetzung e = laufend(spiel) && art == spiel.spieltyp ? soloSchaetzen(spiel, sitz, art, zuerst)
+                                                                     : soloSchaetzen(karten, spiel.regeln, art, zuerst);
     const auto i = static_cast<std::size_t>(art);
     tabellen.stichVerlust[sitz][i] = e.stiche;
     tabellen.augenVerlust[sitz][i] = e.augen;
@@ -393,7 +387,7 @@ int soloBewerten(const Spiel& spiel, const Solokarten& karten, Sitz sitz, int ar
 
 int sicheresSolo(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen) {
     if (!spieltZuerstAus(spiel, sitz)) {
-        // Without the lead no kind is safe: every estimate loses the whole hand.
+        // Without the lead every estimate loses the whole hand, whatever it holds: no kind is safe.
         const int karten = static_cast<int>(eigeneKarten(spiel, sitz).size());
         for (std::size_t i = 1; i <= AnzahlSpielarten; ++i) {
             tabellen.stichVerlust[sitz][i] = karten;

@@ -75,7 +75,6 @@ using Soloarten = std::array<bool, AnzahlSpielarten + 1>;
 Soloarten soloartenAusRegeln(const engine::Regeln& regeln);
 
 // SoloBewerten: stores the estimates of the kind and returns its Augen loss.
-int soloBewerten(const Spiel& spiel, Sitz sitz, int art, Solotabellen& tabellen);
 int soloBewerten(const Spiel& spiel, const Solokarten& karten, Sitz sitz, int art, Solotabellen& tabellen);
 // SicheresSolo: the safe kind with the least loss (ties: more trumps, then Herz), or 0.
 int sicheresSolo(const Spiel& spiel, Sitz sitz, const Soloarten& arten, Solotabellen& tabellen);

@@ -5,6 +5,8 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QSpinBox>
 #include <QVBoxLayout>
 #include <QPainter>
 #include <QRadioButton>
@@ -25,6 +27,19 @@ QVBoxLayout* eingerueckt() {
 }
 
 QGroupBox* gruppe(const char* titel, QWidget* eltern) { return new QGroupBox(t(titel), eltern); }
+
+QSpinBox* zahlenfeld(const char* name, int von, int bis, QWidget* eltern) {
+    auto* feld = new QSpinBox(eltern);
+    feld->setObjectName(QString::fromUtf8(name));
+    feld->setRange(von, bis);
+    return feld;
+}
+
+QLineEdit* textfeld(const char* name, QWidget* eltern) {
+    auto* feld = new QLineEdit(eltern);
+    feld->setObjectName(QString::fromUtf8(name));
+    return feld;
+}
 
 QLabel* hinweis(const char* text, QWidget* eltern) {
     auto* l = new QLabel(t(text), eltern);

@@ -9,6 +9,8 @@ class QButtonGroup;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
+class QLineEdit;
+class QSpinBox;
 class QVBoxLayout;
 
 namespace table {
@@ -19,6 +21,9 @@ class Kartenbilder;
 QVBoxLayout* eingerueckt();  // options that depend on the one above stand a little to the right
 QGroupBox* gruppe(const char* titel, QWidget* eltern);
 QLabel* hinweis(const char* text, QWidget* eltern);  // a note in italics
+// Fields named after their setting: the options file and the tests find them by it.
+QSpinBox* zahlenfeld(const char* name, int von, int bis, QWidget* eltern);
+QLineEdit* textfeld(const char* name, QWidget* eltern);
 
 // Radio buttons, one per value; rows of a grid, so other controls can sit beside them.
 class Wahlgruppe : public QWidget {

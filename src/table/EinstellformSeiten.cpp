@@ -66,11 +66,9 @@ QWidget* Einstellform::spielerSeite() {
     // How long the strong player (character 3) thinks; it counts games, so a busy
     // machine plays the same cards, only later.
     auto* stark = gruppe(StarkerSpieler, seite);
-    auto* bedenkzeit = new QSpinBox(stark);
-    bedenkzeit->setRange(10, 10000);
+    auto* bedenkzeit = zahlenfeld("Bedenkzeit", 10, 10000, stark);
     bedenkzeit->setSingleStep(100);
     bedenkzeit->setSuffix(t(Millisekunden));
-    bedenkzeit->setObjectName(QStringLiteral("Bedenkzeit"));
     bedenkzeit->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     binden("Bedenkzeit", bedenkzeit);
     (new QFormLayout(stark))->addRow(t(Bedenkzeit), bedenkzeit);
@@ -180,13 +178,9 @@ QWidget* Einstellform::netzwerkSeite() {
         if (a.protocol() == QAbstractSocket::IPv4Protocol && !a.isLoopback())
             netzadapter_->addItem(a.toString(), a.toString());
     form->addRow(t(Netzadapter), netzadapter_);
-    serverport_ = new QSpinBox(lan);
-    serverport_->setObjectName(QStringLiteral("Serverport"));
-    serverport_->setRange(1, 65535);
+    serverport_ = zahlenfeld("Serverport", 1, 65535, lan);
     form->addRow(t(Serverport), serverport_);
-    netztempo_ = new QSpinBox(lan);
-    netztempo_->setObjectName(QStringLiteral("Netztempo"));
-    netztempo_->setRange(0, 99);
+    netztempo_ = zahlenfeld("Netztempo", 0, 99, lan);
     form->addRow(t(Netztempo), netztempo_);
     verbindungsart_ = new QComboBox(lan);
     verbindungsart_->setObjectName(QStringLiteral("Verbindungsart"));
@@ -196,22 +190,17 @@ QWidget* Einstellform::netzwerkSeite() {
     ipErfragen_ = new QCheckBox(t(IpErfragen), lan);
     ipErfragen_->setObjectName(QStringLiteral("IPErfragen"));
     form->addRow(ipErfragen_);
-    proxyServer_ = new QLineEdit(lan);
-    proxyServer_->setObjectName(QStringLiteral("ProxyServer"));
+    proxyServer_ = textfeld("ProxyServer", lan);
     form->addRow(t(ProxyServer), proxyServer_);
     spalte->addWidget(lan);
 
     auto* foyer = gruppe(Foyer, seite);
     auto* fform = new QFormLayout(foyer);
-    ircServer_ = new QLineEdit(foyer);
-    ircServer_->setObjectName(QStringLiteral("IRCServer"));
+    ircServer_ = textfeld("IRCServer", foyer);
     fform->addRow(t(IrcServer), ircServer_);
-    ircPort_ = new QSpinBox(foyer);
-    ircPort_->setObjectName(QStringLiteral("IRCPort"));
-    ircPort_->setRange(1, 65535);
+    ircPort_ = zahlenfeld("IRCPort", 1, 65535, foyer);
     fform->addRow(t(IrcPort), ircPort_);
-    ircRaum_ = new QLineEdit(foyer);
-    ircRaum_->setObjectName(QStringLiteral("IRCRaum"));
+    ircRaum_ = textfeld("IRCRaum", foyer);
     fform->addRow(t(IrcRaum), ircRaum_);
     // The foyer and the result mail side by side, so the tab fits a small screen.
     auto* internet = new QHBoxLayout;

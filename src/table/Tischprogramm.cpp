@@ -168,10 +168,14 @@ void Tischprogramm::starten(const QString& ladeDatei) {
 
 bool Tischprogramm::fortsetzbar() const { return !sicherung_.isEmpty() && QFile::exists(sicherung_); }
 
-// True when the automatic save was a Partie to play on.
+// A loaded file was a Partie to play on (not one that had ended).
+bool Tischprogramm::partieZumWeiterspielen() const {
+    return steuerung_.spiel().ablauf.phase != engine::Spielphase::Geben || steuerung_.ablauf().partieLaeuft();
+}
+
 bool Tischprogramm::sicherungLaden() {
     partieLaden(sicherung_);
-    return steuerung_.spiel().ablauf.phase != engine::Spielphase::Geben || steuerung_.ablauf().partieLaeuft();
+    return partieZumWeiterspielen();
 }
 
 void Tischprogramm::willkommen_zeigen() {
@@ -180,7 +184,7 @@ void Tischprogramm::willkommen_zeigen() {
     willkommen.exec();
     if (willkommen.wahl() == Willkommen::Wahl::Laden) {
         m_partie_laden_Click();
-        if (steuerung_.spiel().ablauf.phase != engine::Spielphase::Geben || steuerung_.ablauf().partieLaeuft()) return;
+        if (partieZumWeiterspielen()) return;
     }
     if (willkommen.wahl() == Willkommen::Wahl::Fortsetzen && sicherungLaden()) return;
     steuerung_.neuePartie();

@@ -80,6 +80,8 @@ signals:
 public slots:
     void willkommen_zeigen();
     bool fortsetzbar() const;
+    bool partieZumWeiterspielen() const;
+    // True when the automatic save was a Partie to play on.
     bool sicherungLaden();
     void einstellungenZeigen();
     void regelnZeigen();
